@@ -1,0 +1,44 @@
+#!/usr/bin/python3
+"""Draws every picture of the game into assets/. Same input, same bytes."""
+import sys
+from functools import partial
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+from pictures import creatures, effects, frames, glyphs, pieces, plates, screens  # noqa: E402
+from pictures.canvas import draw_keyed  # noqa: E402
+
+ASSETS = Path(__file__).resolve().parent.parent / "assets"
+
+
+def save(picture, name):
+    path = ASSETS / name
+    path.parent.mkdir(parents=True, exist_ok=True)
+    picture.save(path)
+
+
+def image(name, picture):
+    save(picture, f"images/{name}.bmp")
+
+
+def main():
+    for name, draw in {**pieces.PIECES, **pieces.FRUIT}.items():
+        image(name, draw_keyed(draw))
+    for phase in range(len(creatures.FROG_PHASES)):
+        image(f"frog{phase + 1:02}", draw_keyed(partial(creatures.frog, phase=phase), 100, 100))
+    image("pointer", draw_keyed(effects.pointer, 70, 45))
+    image("zap_h", draw_keyed(effects.zap_horizontal, 80, 80))
+    image("zap_v", draw_keyed(effects.zap_vertical, 80, 80))
+    image("explosion", draw_keyed(effects.explosion, 300, 300))
+    for name, picture in glyphs.glyph_pictures().items():
+        image(name, picture)
+    for name in frames.MOODS:
+        image(name, frames.frame(name))
+    image("loading", screens.loading())
+    for (theme, name), picture in plates.theme_pictures().items():
+        save(picture, f"themes/{theme}/{name}.bmp")
+    save(screens.new_game_page(), "forms/page0.png")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,102 @@
+"""The four frames that surround the field: one design, four moods."""
+import math
+import random
+import numpy as np
+from PIL import Image
+from . import creatures, pieces
+from .canvas import KEY, Canvas
+from .shapes import box, circle, darker, fill, lighter, line, polygon, rgb, sloped, star, stroke
+
+WIDTH, HEIGHT = 1024, 768
+WINDOW = (81, 80, 934, 690)     # inclusive: the plate shows through here
+ICON, ICON_SHIFT, ICON_MIDDLE = 32, 30, 42
+
+
+def bubbles(ctx, rng, x, y, tint):
+    r = rng.uniform(6, 24)
+    stroke(ctx, circle(x, y, r), tint, 2, .16)
+    fill(ctx, circle(x - r * .3, y - r * .3, r * .3), tint, .1)
+
+
+def chevrons(ctx, rng, x, y, tint):
+    r = rng.uniform(8, 18)
+    stroke(ctx, line((x - r, y + r), (x, y), (x + r, y + r)), tint, 4, .15)
+
+
+def hexagons(ctx, rng, x, y, tint):
+    r = rng.choice((14, 22))
+    hexagon = polygon([(x + r * math.cos(i * math.pi / 3), y + r * math.sin(i * math.pi / 3)) for i in range(6)])
+    stroke(ctx, hexagon, tint, 2, .2)
+
+
+def night_sky(ctx, rng, x, y, tint):
+    fill(ctx, star(x, y, 4, rng.uniform(3, 9), 1.2), tint, rng.uniform(.25, .6))
+
+
+def pin(ctx):
+    """A bowling pin on the 90x90 of a piece."""
+    body = polygon([(38, 4), (52, 4), (55, 18), (51, 32), (61, 54), (58, 86), (32, 86), (29, 54), (39, 32), (35, 18)], 9)
+    sloped(ctx, body, rgb("f4efe4"), rgb("8d86a0"), 3.2, rgb("120c24"))
+    for y in (26, 33):
+        stroke(ctx, line((39.5, y), (50.5, y)), rgb("d22f4b"), 3.4)
+
+
+def moon(ctx):
+    ctx.new_path()
+    ctx.arc(45, 45, 36, math.radians(50), math.radians(310))
+    ctx.arc_negative(66, 45, 27.7, math.radians(274), math.radians(86))
+    ctx.close_path()
+    ctx.set_source_rgb(*rgb("f4e6a8"))
+    ctx.fill()
+
+
+GLONKS = list(creatures.GLONKS.values())
+FRUIT = list(pieces.FRUIT.values())
+COUNTED = [(795, pieces.money), (895, pieces.music)]
+# Per frame: ground, accent, ornament, the figures of the right band, the counters' icons.
+MOODS = {
+    "frame": ("1c2740", "6ea8ff", bubbles, GLONKS + [pieces.diamond, pieces.bauble],
+              [(300, pieces.slammer), (400, pieces.bomb), (500, pieces.detonator), (600, pieces.bowling_ball)]),
+    "frameA": ("3a1a2c", "ff7f9d", chevrons, [pieces.calculator_plus, GLONKS[0], pieces.rock_round, GLONKS[2],
+                                             pieces.shifter, pieces.calculator_minus], []),
+    "frameB": ("12322f", "4fe0b0", hexagons, [pieces.b_type] + FRUIT + [pieces.b_type], [(300, pieces.b_type)]),
+    "frameM": ("1d1740", "c9a6ff", night_sky, [moon, pin, pieces.bowling_ball, pin, pieces.bowling_ball, pin], []),
+}
+
+
+def lip(ctx, ground, accent):
+    """The bevelled edge around the window."""
+    x0, y0, x1, y1 = WINDOW
+    for grow, colour, width in ((11.5, darker(ground, .75), 2), (9, lighter(ground, .1), 3), (5.5, darker(ground, .35), 5)):
+        stroke(ctx, box(x0 - grow, y0 - grow, x1 - x0 + 2 * grow, y1 - y0 + 2 * grow, 10), colour, width)
+    top_left = line((x0 - 9.5, y1 + 4), (x0 - 9.5, y0 - 3), (x0 - 3, y0 - 9.5), (x1 + 4, y0 - 9.5))
+    stroke(ctx, top_left, lighter(ground, .45), 1.6, .8)
+    stroke(ctx, box(x0 - 3, y0 - 3, x1 - x0 + 7, y1 - y0 + 7, 3), darker(accent, .45), 2)
+    stroke(ctx, box(x0 - 1, y0 - 1, x1 - x0 + 3, y1 - y0 + 3), (.02, .02, .04), 2)
+
+
+def frame(name):
+    ground_text, accent_text, ornament, figures, counters = MOODS[name]
+    ground, accent = rgb(ground_text), rgb(accent_text)
+    rng = random.Random(name)
+    canvas = Canvas(WIDTH, HEIGHT, 2)
+    ctx = canvas.ctx
+    sloped(ctx, box(0, 0, WIDTH, HEIGHT), lighter(ground, .06), darker(ground, .6), 0)
+    for _ in range(46):     # right band and the right part of the bottom band
+        ornament(ctx, rng, rng.uniform(945, 1020), rng.uniform(90, 760), accent)
+        ornament(ctx, rng, rng.uniform(620, 1000), rng.uniform(708, 766), accent)
+    for _ in range(14):
+        ornament(ctx, rng, rng.uniform(4, 60), rng.uniform(90, 680), accent)
+    for left, y, right, height in ((4, 4, 1020, 62), (66, 709, 600, 50)):   # wells for the lines of text
+        well = box(left, y, right - left, height, 12)
+        sloped(ctx, well, darker(ground, .78), darker(ground, .6), 2, lighter(ground, .14), diagonal=False)
+    lip(ctx, ground, accent)
+    for i, draw in enumerate(figures):
+        pieces.place(ctx, draw, 954, 100 + i * 98, 62, .62)
+    for x, draw in counters + COUNTED:
+        pieces.place(ctx, draw, x + ICON_SHIFT, ICON_MIDDLE - ICON / 2, ICON)
+    stroke(ctx, box(1, 1, WIDTH - 2, HEIGHT - 2, 4), darker(ground, .8), 2)
+    pixels = np.array(canvas.opaque(.8))
+    x0, y0, x1, y1 = WINDOW
+    pixels[y0:y1 + 1, x0:x1 + 1] = KEY
+    return Image.fromarray(pixels)

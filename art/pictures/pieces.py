@@ -1,0 +1,279 @@
+"""The lifeless pieces: rocks, tools, treasures and fruit, each on 90x90."""
+import math
+from . import creatures, glyphs
+from .shapes import (blob, box, circle, curve, darker, ellipse, fill, glossy, lighter, line,
+                     polygon, rgb, sloped, star, stroke, tube)
+
+STEEL, GOLD = rgb("8d99a8"), rgb("f2b632")
+
+
+def facets(ctx, outline, faces, colour):
+    """A chipped stone: flat faces, each with its own amount of light."""
+    sloped(ctx, polygon(outline, 6), lighter(colour, .15), darker(colour, .5), 0)
+    ctx.save()
+    polygon(outline, 6)(ctx)
+    ctx.clip()
+    for points, light in faces:
+        shade = lighter(colour, light) if light > 0 else darker(colour, -light)
+        fill(ctx, polygon(points), shade)
+        stroke(ctx, polygon(points), darker(colour, .55), 1)
+    ctx.restore()
+    stroke(ctx, polygon(outline, 6), darker(colour, .86), 3.4)
+
+
+def rock_round(ctx):
+    outline = [(24, 10), (58, 5), (82, 27), (86, 56), (66, 84), (28, 85), (5, 62), (7, 30)]
+    facets(ctx, outline, [
+        ([(24, 10), (58, 5), (50, 30), (26, 36)], .5), ([(58, 5), (82, 27), (66, 46), (50, 30)], .22),
+        ([(24, 10), (26, 36), (16, 56), (5, 62), (7, 30)], .3), ([(26, 36), (50, 30), (66, 46), (48, 64), (16, 56)], .1),
+        ([(82, 27), (86, 56), (66, 84), (48, 64), (66, 46)], -.35), ([(16, 56), (48, 64), (66, 84), (28, 85), (5, 62)], -.22)],
+        rgb("8a8f98"))
+    stroke(ctx, line((36, 44), (44, 50), (41, 58)), (.1, .1, .12), 2)
+
+
+def rock_pile(ctx):
+    """Three brown stones, one on top of two."""
+    tan = rgb("a8794e")
+    for x, y, w, h, tone in ((5, 48, 42, 37, tan), (42, 52, 43, 33, darker(tan, .2)), (22, 20, 46, 36, lighter(tan, .12))):
+        path = blob([(x + w * u, y + h * v) for u, v in
+                     ((.2, .08), (.62, 0), (.95, .3), (1, .72), (.7, 1), (.25, .98), (0, .66), (.03, .3))])
+        glossy(ctx, path, tone, 3.2, .35)
+        for u, v in ((.55, .55), (.3, .72), (.74, .66)):
+            fill(ctx, ellipse(x + w * u, y + h * v, 2.6, 1.8), darker(tone, .5))
+
+
+def rock_peak(ctx):
+    outline = [(40, 3), (54, 22), (64, 16), (72, 48), (87, 60), (82, 86), (8, 86), (4, 64), (18, 52), (24, 24)]
+    facets(ctx, outline, [
+        ([(40, 3), (54, 22), (46, 60), (34, 40)], .18), ([(40, 3), (34, 40), (18, 52), (24, 24)], .42),
+        ([(54, 22), (64, 16), (72, 48), (46, 60)], -.3), ([(72, 48), (87, 60), (82, 86), (56, 86), (46, 60)], -.5),
+        ([(18, 52), (34, 40), (46, 60), (26, 86), (8, 86), (4, 64)], .05), ([(46, 60), (56, 86), (26, 86)], -.2)],
+        rgb("6a738c"))
+
+
+def slammer(ctx):
+    """An I-shaped press: it closes a row from either end."""
+    web = box(22, 20, 46, 50)
+    sloped(ctx, web, rgb("ffcf33"), rgb("e0a010"), 0)
+    ctx.save()
+    web(ctx)
+    ctx.clip()
+    for i in range(-4, 6):
+        x = 22 + i * 20
+        fill(ctx, polygon([(x, 72), (x + 10, 72), (x + 64, 18), (x + 54, 18)]), rgb("17171c"))
+    ctx.restore()
+    stroke(ctx, web, rgb("101015"), 3.2)
+    for y in (4, 64):
+        sloped(ctx, box(4, y, 82, 22, 5), lighter(STEEL, .5), darker(STEEL, .45), 3.2, diagonal=False)
+        stroke(ctx, line((9, y + 4), (80, y + 4)), (.95, .97, 1), 2, .6)
+        for x in (15, 45, 75):
+            glossy(ctx, circle(x, y + 12, 4.4), rgb("59636f"), 1.8)
+
+
+def bomb(ctx):
+    tube(ctx, curve(58, 24, 62, 10, 72, 6, 76, 15), rgb("c9a26a"), 4, 2.4)
+    stroke(ctx, star(77, 17, 8, 9.5, 5), rgb("4a1600"), 5)
+    fill(ctx, star(77, 17, 8, 9.5, 5), rgb("ff9a1f"))
+    fill(ctx, circle(77, 17, 4), rgb("fff2b0"))
+    glossy(ctx, circle(40, 52, 33.5), rgb("41444f"), edge=rgb("08080b"), shine=.75)
+    ctx.save()
+    ctx.translate(58, 27)
+    ctx.rotate(math.radians(38))
+    sloped(ctx, box(-11, -6, 22, 12, 3), lighter(STEEL, .5), darker(STEEL, .4), diagonal=False)
+    ctx.restore()
+    glossy(ctx, star(40, 56, 3, 15, 8, 2, 90), rgb("e8452c"), 2, .3)
+
+
+def bauble(ctx):
+    glass = rgb("c2318f")
+    stroke(ctx, ellipse(45, 10.5, 5, 5), rgb("241a04"), 6.5)
+    stroke(ctx, ellipse(45, 10.5, 5, 5), GOLD, 2.8)
+    sloped(ctx, box(33, 13, 24, 13, 3), lighter(GOLD, .5), darker(GOLD, .4), edge=rgb("2b1c02"), diagonal=False)
+    ball = circle(45, 54, 33)
+    glossy(ctx, ball, glass, shine=.8)
+    ctx.save()
+    ball(ctx)
+    ctx.clip()
+    for y in (38, 72):
+        stroke(ctx, curve(8, y, 30, y + 9, 60, y + 9, 82, y), rgb("ffd9ec"), 3, .75)
+    ctx.restore()
+    stroke(ctx, ball, darker(glass, .84), 3)
+    glossy(ctx, star(45, 59, 5, 14.5, 6.5, 1), rgb("ffe9a8"), 2, .2, rgb("4a0b36"))
+
+
+def diamond(ctx):
+    ice = rgb("46c8e8")
+    top, mid, low = 17, 39, 85
+    xs, ts = (4, 25, 45, 65, 86), (20, 45, 70)
+    tri = [
+        ([(xs[0], mid), (ts[0], top), (xs[1], mid)], .55), ([(ts[0], top), (ts[1], top), (xs[1], mid)], .82),
+        ([(ts[1], top), (xs[1], mid), (xs[3], mid)], .4), ([(ts[1], top), (ts[2], top), (xs[3], mid)], .6),
+        ([(ts[2], top), (xs[4], mid), (xs[3], mid)], .05), ([(xs[0], mid), (xs[1], mid), (45, low)], .35),
+        ([(xs[1], mid), (xs[3], mid), (45, low)], -.02), ([(xs[3], mid), (xs[4], mid), (45, low)], -.45)]
+    for points, light in tri:
+        fill(ctx, polygon(points), lighter(ice, light) if light > 0 else darker(ice, -light))
+        stroke(ctx, polygon(points), lighter(ice, .8), 1.1, .8)
+    stroke(ctx, polygon([(4, mid), (20, top), (70, top), (86, mid), (45, low)], 2), rgb("04202c"), 3.2)
+    fill(ctx, star(25, 27, 4, 9, 2), (.98, .98, .98))
+
+
+def calculator(ctx, body, display, key, is_plus):
+    sloped(ctx, box(12, 4, 66, 82, 9), lighter(body, .3), darker(body, .35))
+    stroke(ctx, line((20, 8), (70, 8)), (1, 1, 1), 2, .4)
+    sloped(ctx, box(19, 12, 52, 38, 4), lighter(display, .3), darker(display, .25), 2.6, rgb("0a0a0a"))
+    sign = rgb("07140a") if is_plus else rgb("fff4ee")
+    fill(ctx, box(31, 27.5, 28, 7), sign)
+    if is_plus:
+        fill(ctx, box(41.5, 17, 7, 28), sign)
+    for row in range(2):
+        for col in range(4):
+            sloped(ctx, box(19 + col * 13.6, 57 + row * 13, 11, 9.5, 2.5), lighter(key, .4), darker(key, .2), 1.4)
+
+
+def calculator_plus(ctx):
+    calculator(ctx, rgb("d9dde2"), rgb("6fdc63"), rgb("66707e"), True)
+
+
+def calculator_minus(ctx):
+    calculator(ctx, rgb("3b3f4c"), rgb("d22727"), rgb("c9ced8"), False)
+
+
+def shifter(ctx):
+    teal = rgb("0fa3a0")
+    glossy(ctx, box(3, 20, 84, 50, 25), teal, shine=.4)
+    arrow = polygon([(9, 45), (29, 27), (29, 38), (61, 38), (61, 27), (81, 45),
+                     (61, 63), (61, 52), (29, 52), (29, 63)], 1.5)
+    sloped(ctx, arrow, rgb("fffbe8"), rgb("ffd98a"), 2.4, rgb("033635"))
+
+
+def bowling_ball(ctx):
+    shell = rgb("3c2a92")
+    ball = circle(45, 45, 40.5)
+    glossy(ctx, ball, shell, shine=.75, edge=rgb("0a0620"))
+    ctx.save()
+    ball(ctx)
+    ctx.clip()
+    for dx, dy in ((0, 22), (10, 40), (26, 54)):
+        stroke(ctx, curve(-4, 52 + dy * .6, 24, 40 + dy, 40, 70 + dy * .3, 92, 34 + dy), rgb("8e7bff"), 2.4, .4)
+    ctx.restore()
+    stroke(ctx, ball, rgb("0a0620"), 3)
+    for x, y in ((50, 27), (66, 34), (54, 46)):
+        fill(ctx, ellipse(x, y, 6.6, 6.2), lighter(shell, .45))
+        fill(ctx, ellipse(x - .8, y - .8, 5.8, 5.4), rgb("07040f"))
+
+
+def money(ctx):
+    """A twelve-sided coin with a bar through its letter."""
+    def coin(x, y, r):
+        return polygon([(x + r * math.cos(math.radians(15 + 30 * i)), y + r * math.sin(math.radians(15 + 30 * i)))
+                        for i in range(12)], 3)
+    glossy(ctx, coin(47.5, 48, 38.5), darker(GOLD, .45), edge=rgb("2c1a02"))
+    glossy(ctx, coin(43, 43, 38.5), GOLD, shine=.5, edge=rgb("2c1a02"))
+    stroke(ctx, coin(43, 43, 31), darker(GOLD, .5), 2.4)
+    stroke(ctx, line((44, 17), (44, 69)), rgb("5c3a04"), 5)
+    glyphs.letter(ctx, "G", 31.5, 27, 5.4, 7, rgb("7a4c06"), 0)
+
+
+def music(ctx):
+    violet = rgb("ef6fd0")
+    parts = [ellipse(23, 72, 16, 11.5, -20), ellipse(66, 63, 16, 11.5, -20),
+             polygon([(30, 18), (38, 16), (38, 72), (30, 72)]), polygon([(73, 8), (81, 6), (81, 63), (73, 63)]),
+             polygon([(30, 15), (81, 5), (81, 22), (30, 32)], 2)]
+    for path in parts:
+        stroke(ctx, path, rgb("2a0624"), 6)
+    for path in parts[2:4]:
+        sloped(ctx, path, lighter(violet, .1), darker(violet, .3), 0)
+    sloped(ctx, parts[4], lighter(violet, .6), violet, 0)
+    for path in parts[:2]:
+        glossy(ctx, path, violet, 0)
+
+
+def detonator(ctx):
+    """Plunger box; only ever an icon."""
+    sloped(ctx, box(40, 18, 10, 40), lighter(STEEL, .5), darker(STEEL, .3))
+    sloped(ctx, box(12, 5, 66, 15, 6), rgb("ff6a4a"), rgb("a01c14"), 3.4)
+    sloped(ctx, polygon([(14, 46), (76, 46), (84, 86), (6, 86)], 4), rgb("e8b04a"), rgb("8a5a18"), 3.4)
+    fill(ctx, polygon([(47, 50), (34, 68), (43, 68), (39, 82), (56, 63), (47, 63)]), rgb("2a1604"))
+
+
+def b_type(ctx):
+    """Hexagonal tile with a B; only ever an icon."""
+    glossy(ctx, polygon([(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)], 6), rgb("17a06a"), 4)
+    glyphs.letter(ctx, "B", 33, 24, 7, 11, rgb("fff0b8"), 3)
+
+
+def leaf(ctx, x, y, degrees, size=1.0):
+    ctx.save()
+    ctx.translate(x, y)
+    ctx.rotate(math.radians(degrees))
+    ctx.scale(size, size)
+    glossy(ctx, curve(0, 0, 6, -12, 20, -12, 28, 0, 20, 9, 8, 9, 0, 0), rgb("58b53c"), 2.8)
+    stroke(ctx, line((4, 0), (21, -1)), rgb("1c4a12"), 1.6)
+    ctx.restore()
+
+
+def apple(ctx):
+    tube(ctx, curve(45, 24, 44, 16, 42, 12, 38, 7), rgb("8a5a2a"), 4, 2.4)
+    glossy(ctx, blob([(45, 24), (62, 17), (80, 28), (83, 50), (72, 76), (58, 86), (45, 82), (32, 86),
+                      (18, 76), (7, 50), (10, 28), (28, 17)]), rgb("b81f2d"), shine=.75)
+    leaf(ctx, 47, 17, -18)
+
+
+def orange(ctx):
+    """A whole fruit with a cut half in front of it."""
+    peel = rgb("f58a1c")
+    glossy(ctx, circle(41, 44, 36), peel)
+    for i in range(16):
+        a, r = i * 2.4, 8 + 1.5 * i
+        fill(ctx, circle(38 + r * math.cos(a), 46 + r * math.sin(a), 1.1), darker(peel, .35), .7)
+    leaf(ctx, 40, 13, -10, .85)
+    fill(ctx, circle(62, 62, 25.5), darker(peel, .84))
+    fill(ctx, circle(62, 62, 22.5), peel)
+    fill(ctx, circle(62, 62, 19.5), rgb("fff0cf"))
+    for i in range(8):
+        a, b = math.radians(i * 45 + 4), math.radians(i * 45 + 41)
+        fill(ctx, polygon([(62 + 2.5 * math.cos((a + b) / 2), 62 + 2.5 * math.sin((a + b) / 2)),
+                           (62 + 17.5 * math.cos(a), 62 + 17.5 * math.sin(a)),
+                           (62 + 17.5 * math.cos(b), 62 + 17.5 * math.sin(b))], 2.5), rgb("ffa336"))
+
+
+def cherry(ctx):
+    for x in (24, 65):
+        tube(ctx, curve(x, 56, x, 38, 46, 26, 54, 9), rgb("7d9a3a"), 3.4, 2.3)
+    glossy(ctx, circle(23, 64, 20), rgb("d81e3f"), shine=.85)
+    glossy(ctx, circle(66, 66, 19.5), rgb("d81e3f"), shine=.85)
+    leaf(ctx, 54, 11, 14)
+
+
+def grapes(ctx):
+    tube(ctx, curve(45, 20, 46, 12, 50, 8, 54, 6), rgb("8a6a3a"), 4, 2.4)
+    for y, xs in ((76, (45,)), (62, (35, 55)), (47, (25, 45, 65)), (32, (16, 35, 55, 74)), (24, (27, 45, 63))):
+        for x in xs:
+            glossy(ctx, circle(x, y, 11), rgb("7b45c4"), 2.6, .85)
+    leaf(ctx, 44, 17, -168, .9)
+
+
+PIECES = {
+    **creatures.GLONKS, "gorgon": creatures.gorgon,
+    "rock_01": rock_round, "rock_02": rock_pile, "rock_03": rock_peak,
+    "slammer": slammer, "bomb": bomb, "bauble": bauble, "diamond": diamond,
+    "calculator_01": calculator_plus, "calculator_02": calculator_minus, "shifter": shifter,
+    "bowlingball": bowling_ball, "money": money, "music": music,
+}
+FRUIT = {"apple": apple, "orange": orange, "cherry": cherry, "grapes": grapes}
+
+
+def place(ctx, draw, x, y, size, alpha=1.0, turn=0):
+    """Draws a piece with its 90x90 box scaled to `size`, top left at (x, y)."""
+    ctx.save()
+    ctx.translate(x + size / 2, y + size / 2)
+    ctx.rotate(math.radians(turn))
+    ctx.scale(size / 90, size / 90)
+    ctx.translate(-45, -45)
+    if alpha < 1:
+        ctx.push_group()
+    draw(ctx)
+    if alpha < 1:
+        ctx.pop_group_to_source()
+        ctx.paint_with_alpha(alpha)
+    ctx.restore()

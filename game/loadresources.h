@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "present/services/surface.h"
+
+// Samples and pictures from the folders beside the program. All need initDX, and raise fileNotFound
+// or badFile, naming the file.
+namespace glonks {
+
+// "\images\", the name and ".bmp", with the game's colour key set; `desc` takes its size.
+Surface loadKeyedPicture(const std::string& name, SurfaceDesc& desc);
+
+// The 24 samples of a game, from "\sounds\".
+void loadSamples();
+
+// The 49 pictures of a game: those of "\images\", the frame by the text of tMode, and one plate of
+// the theme, its number drawn just before it is loaded.
+void loadPictures();
+
+}  // namespace glonks

@@ -1,0 +1,71 @@
+#include "game/pieces.h"
+
+#include "game/loadresources.h"
+#include "present/display.h"
+#include "storage/fieldreader.h"
+#include "storage/scrambledfiles.h"
+#include "storage/textchannels.h"
+
+namespace glonks {
+namespace {
+
+constexpr i16 pieceChannel = 3;
+constexpr i16 lastPieceSlot = 18;
+
+// By slot.
+constexpr std::array<const char*, lastPieceSlot + 1> fileIds = {
+    "1980", "0018", "1281", "9234", "4742", "9338", "0634", "6768", "5156", "0876",
+    "8624", "8752", "2137", "5493", "7147", "7045", "9201", "6337", "8269"};
+
+// The fields in the order of the file. Gives the picture's name.
+std::string readPiece(i16 channel, Piece& piece) {
+  piece.name = readField(channel, "name");
+  if (piece.name.empty()) badField(channel, "name", "is empty.");
+  piece.variety = readI16(channel, "variety");
+  std::string picture = readField(channel, "picture");
+  piece.bombable = readFlag(channel, "bombable");
+  piece.spareFlagA = readFlag(channel, "spareFlagA");
+  piece.slammable = readFlag(channel, "slammable");
+  piece.isBauble = readFlag(channel, "isBauble");
+  piece.isBomb = readFlag(channel, "isBomb");
+  piece.isCalculator = readFlag(channel, "isCalculator");
+  piece.isDiamond = readFlag(channel, "isDiamond");
+  piece.isGorgon = readFlag(channel, "isGorgon");
+  piece.isShifter = readFlag(channel, "isShifter");
+  piece.isMoney = readFlag(channel, "isMoney");
+  piece.spareFlagB = readFlag(channel, "spareFlagB");
+  piece.isBowlingBall = readFlag(channel, "isBowlingBall");
+  piece.isSlammer = readFlag(channel, "isSlammer");
+  piece.value = readI32(channel, "value");
+  piece.timerMax = readI32(channel, "timerMax");
+  piece.timerMin = readI32(channel, "timerMin");
+  piece.isPin = readFlag(channel, "isPin");
+  return picture;
+}
+
+}  // namespace
+
+Piece loadPiece(const std::string& fileId) {
+  Piece piece;
+  ScrambledReader file("\\init\\" + fileId, pieceChannel);
+  const std::string picture = readPiece(pieceChannel, piece);
+  file.close();
+  if (piece.name != "BType" && piece.name != "Pin") {
+    piece.surface = loadKeyedPicture(picture, piece.surfaceDesc);
+  }
+  return piece;
+}
+
+void loadPieces() {
+  pieceCatalogUpper = lastPieceSlot;
+  for (std::size_t slot = 0; slot < fileIds.size(); ++slot) {
+    pieceCatalog[slot] = loadPiece(fileIds[slot]);
+  }
+  for (i16 slot = 0; slot <= lastPieceSlot; ++slot) {
+    pieceCatalog[static_cast<std::size_t>(slot)].imageIndex = slot;
+  }
+  Piece& negative = pieceCatalog[negativeCalculatorSlot];
+  negative.surface = loadKeyedPicture("calculator_02", negative.surfaceDesc);
+}
+
+}  // namespace glonks

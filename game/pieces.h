@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "game/model.h"
+
+// The piece files: what each kind of piece is.
+namespace glonks {
+
+// The piece of the file "\init\" and a four-digit id, with its picture. Raises fileNotFound,
+// inputPastEnd, overflow or badFile, naming file and field.
+Piece loadPiece(const std::string& fileId);
+
+// Fills pieceCatalog from the 19 piece files, and slot 19 with its picture. Needs initDX and
+// initVariables. Raises as loadPiece does.
+void loadPieces();
+
+}  // namespace glonks

@@ -1,0 +1,62 @@
+#include <exception>
+#include <string>
+
+#include "game/errors.h"
+#include "game/model.h"
+#include "game/text.h"
+#include "present/console.h"
+#include "present/display.h"
+#include "shell/ftip.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/log.h"
+#include "storage/paths.h"
+
+namespace {
+
+using namespace glonks;
+
+// Whether this run may use the program's folder; tells the player if not.
+bool holdProgramFolder() {
+  switch (holdFolder(programFolder())) {
+    case FolderHold::held:
+      return true;
+    case FolderHold::otherRun:
+      messageBox("Glonks is already running.");
+      return false;
+    case FolderHold::notWritable:
+      break;
+  }
+  messageBox("Glonks can't write to its folder, so it could keep no scores:\n\n" +
+             fromUtf8(programFolder().string()) +
+             "\n\nPlease move it to a folder of your own and start it there.");
+  return false;
+}
+
+// The end of a run that failed: one line in the log, the screen given back, one message.
+void endFailedRun(const std::string& logged, const std::string& shown) {
+  logStep("error " + logged);
+  if (fConsole.hWnd != 0) {
+    gameOver = True;
+    destroy();
+  }
+  closeLog();
+  messageBox(shown);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    startToolkit(argc, argv);
+    setProgramFolder(folderOfProgram());
+    if (!holdProgramFolder()) return 1;
+    fTip_Form_Load();
+    runEvents();
+    return 0;
+  } catch (const RuntimeError& error) {
+    endFailedRun(plainNumber(error.number()) + ", " + error.what(), error.what());
+  } catch (const std::exception& error) {
+    endFailedRun(error.what(), std::string("Glonks has to end: ") + error.what());
+  }
+  return 1;
+}

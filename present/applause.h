@@ -1,0 +1,8 @@
+#pragma once
+
+namespace glonks {
+
+// A random mix of clapping.
+void applause();
+
+}  // namespace glonks

@@ -1,0 +1,53 @@
+#include "present/fielddrawing.h"
+
+#include "game/model.h"
+#include "game/resources.h"
+#include "present/display.h"
+
+namespace glonks {
+namespace {
+
+constexpr Rect pieceSource{0, 0, pieceSize, pieceSize};
+constexpr Rect pointerSource{0, 0, 70, 45};
+constexpr Rect plateSource{0, 0, 500, 350};
+constexpr Rect plateTarget{81, 80, 934, 690};
+constexpr Rect whole{};
+constexpr i32 pointerLeft = 10;
+constexpr i32 pointerTop = 620;  // at row 0
+
+}  // namespace
+
+void drawPiece(i16 imageIndex, i16 column, i16 y) {
+  const i32 left = column * cellPitch + fieldLeft;
+  const i32 top = y + fieldTop;
+  backBuffer->Blt({left, top, left + pieceSize, top + pieceSize},
+                  pieceCatalog[static_cast<std::size_t>(imageIndex)].surface, pieceSource,
+                  bltKeyed);
+}
+
+void drawField() {
+  for (const Row& row : playfield) {
+    for (const Cell& cell : row.cells) {
+      if (cell.occupied == True) drawPiece(cell.imageIndex, cell.column, cell.y);
+    }
+  }
+  for (i32 i = 0; i <= fallingPiecesUpper; ++i) {
+    const Piece& piece = fallingPieces[static_cast<std::size_t>(i)];
+    drawPiece(piece.imageIndex, piece.column, piece.y);
+  }
+}
+
+void drawPointer() {
+  const i32 top = pointerTop - cellPitch * selectedRow;
+  backBuffer->Blt({pointerLeft, top, pointerLeft + pointerSource.right, top + pointerSource.bottom},
+                  pointerSurface, pointerSource, bltKeyed);
+}
+
+void layPlate() {
+  backBuffer->BltColorFill(whole, RGB(0, 0, 0));
+  backBuffer->Blt(plateTarget, plateSurface, plateSource, bltOpaque);
+}
+
+void layFrame() { backBuffer->Blt(whole, frameSurface, whole, bltKeyed); }
+
+}  // namespace glonks

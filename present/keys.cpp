@@ -1,0 +1,158 @@
+#include "present/keys.h"
+
+#include "game/gametick.h"
+#include "game/resources.h"
+#include "present/console.h"
+#include "present/display.h"
+#include "present/music.h"
+#include "present/services/bass.h"
+#include "present/services/window.h"
+#include "rules/items.h"
+#include "rules/rowshift.h"
+#include "shell/toolkit/toolkit.h"
+
+namespace glonks {
+namespace {
+
+// DirectInput scan codes.
+enum ScanCode : i16 {
+  noKey = -2,
+  keyEscape = 1,
+  key1 = 2,
+  key2 = 3,
+  key3 = 4,
+  key4 = 5,
+  keyP = 25,
+  keyN = 49,
+  keyUp = 200,
+  keyLeft = 203,
+  keyRight = 205,
+  keyDown = 208
+};
+
+constexpr i32 keyGate = 150;  // ms after a key during which others are ignored
+constexpr i16 topRow = rowCount - 1;
+
+KeyState keyState = {};
+
+bool isDown(ScanCode code) { return keyState[static_cast<std::size_t>(code)] != 0; }
+
+// Takes one off a stock, if the mode lets items be used and there is one.
+bool takeItem(i16 slot) {
+  i16& stock = itemStock[static_cast<std::size_t>(slot)];
+  if (modeName != "Freestyle" || stock <= 0) return false;
+  --stock;
+  return true;
+}
+
+void detonate() {
+  _detonate->Play(0);
+  for (Row& row : playfield) {
+    for (Cell& cell : row.cells) {
+      if (cell.occupied == True && cell.isBomb == True) cell.expiry = 0;
+    }
+  }
+}
+
+void movePointer(i16 step) {
+  selectedRow = static_cast<i16>(selectedRow + step);
+  _moverow->Stop();
+  _moverow->Play(0);
+}
+
+void act(i16 wanted) {
+  switch (wanted) {
+    case key1:
+      if (takeItem(slammerItem)) dropItem("Slammer");
+      break;
+    case key2:
+      if (takeItem(bombItem)) dropItem("Bomb");
+      break;
+    case key3:
+      if (takeItem(detonatorItem)) detonate();
+      break;
+    case key4:
+      if (takeItem(bowlingBallItem)) dropItem("Bowling Ball");
+      break;
+    case keyLeft:
+      shiftRow(True);
+      break;
+    case keyRight:
+      shiftRow(False);
+      break;
+    case keyUp:
+      if (selectedRow != topRow) movePointer(1);
+      break;
+    case keyDown:
+      if (selectedRow != 0) movePointer(-1);
+      break;
+    case keyEscape:
+      gameOver = True;
+      break;
+    default:
+      break;
+  }
+}
+
+void showPause() {
+  constexpr i32 textX = 10;
+  constexpr i32 textY = 20;
+  backBuffer->BltColorFill({}, RGB(0, 0, 0));
+  backBuffer->DrawText(textX, textY, "Paused...  Press the P key to resume.", False);
+  primarySurface->Flip(nullptr, flipWait);
+}
+
+void waitForScreen() {
+  setWindowState(fConsole.hWnd, WindowState::maximised);
+  while (dd->TestCooperativeLevel() != 0) letMessagesThrough();
+  setWindowState(fConsole.hWnd, WindowState::normal);
+  dd->RestoreAllSurfaces();
+}
+
+}  // namespace
+
+void readKeys() {
+  keyboard->GetDeviceStateKeyboard(keyState);
+  i16 wanted = noKey;
+  for (const ScanCode code : {key1, key2, key3, key4}) {
+    if (isDown(code)) wanted = code;
+  }
+  if (isDown(keyN)) nextSong();
+  if (isDown(keyP)) togglePause();
+  // The last key found down wins: Escape before Down before Up before Right before Left.
+  for (const ScanCode code : {keyLeft, keyRight, keyUp, keyDown, keyEscape}) {
+    if (isDown(code)) wanted = code;
+  }
+  if (gameTick() <= lastKeyTick + keyGate) return;
+  if (paused == True) return;
+  act(wanted);
+  lastKeyTick = gameTick();
+}
+
+void togglePause() {
+  if (paused == True) {
+    ShowCursor(0);
+    paused = False;
+    BASS_Start();
+    return;
+  }
+  ShowCursor(1);
+  paused = True;
+  const u32 pauseStart = GetTickCount();
+  const i32 keyTickBefore = lastKeyTick;
+  BASS_Pause();
+  while (paused == True) {
+    letMessagesThrough();
+    if (dd->TestCooperativeLevel() == 0) {
+      showPause();
+    } else {
+      waitForScreen();
+    }
+  }
+  const u32 length = GetTickCount() - pauseStart;
+  tickBase += length;
+  // The key event that ended the pause has set lastKeyTick by the clock of before: it moves along.
+  if (lastKeyTick != keyTickBefore) lastKeyTick -= static_cast<i32>(length);
+}
+
+}  // namespace glonks

@@ -1,0 +1,64 @@
+#include "present/music.h"
+
+#include <set>
+#include <string>
+
+#include "game/model.h"
+#include "game/random.h"
+#include "present/display.h"
+#include "present/services/bass.h"
+#include "shell/menucontrols.h"
+#include "storage/log.h"
+
+namespace glonks {
+namespace {
+
+constexpr i32 keepFrequency = -1;
+constexpr i32 keepPan = -101;
+constexpr i32 songLineX = 80;
+constexpr i32 songLineY = 723;
+
+// Rows of `songs` that could not be opened in this game.
+std::set<i16> failedSongs;
+
+i16 drawSong(i32 count) {
+  i16 draw = songIndex;
+  do {
+    draw = static_cast<i16>(drawBelow(count));
+  } while (draw == songIndex && count > 1);
+  return draw;
+}
+
+void logFailedSong() {
+  if (!failedSongs.insert(songIndex).second) return;
+  logStep("nextSong - the song \"" + songTitle + "\" can't be played");
+}
+
+}  // namespace
+
+void nextSong() {
+  const auto count = static_cast<i32>(songs.items.size());
+  BASS_StreamFree(musicStream);
+  musicStream = 0;
+  if (count > 0) {
+    const i16 draw = drawSong(count);
+    songTitle = songs.items[static_cast<std::size_t>(draw)];
+    musicStream = BASS_StreamCreateFile(0, "\\music\\" + songTitle, 0, 0, 0);
+    BASS_ChannelSetAttributes(musicStream, keepFrequency, musicVolume, keepPan);
+    songIndex = draw;
+    if (musicStream == 0) logFailedSong();
+  }
+  BASS_StreamPlay(musicStream, 0, 0);
+}
+
+void showSongLine() {
+  backBuffer->DrawText(songLineX, songLineY, songTitle, False);
+  const std::string notice = takeSoundNotice();
+  if (!notice.empty()) logStep(notice);
+  if (BASS_ChannelIsActive(musicStream) != 0) return;
+  if (failedSongs.size() < songs.items.size()) nextSong();
+}
+
+void forgetFailedSongs() { failedSongs.clear(); }
+
+}  // namespace glonks

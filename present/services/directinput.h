@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "game/types.h"
+
+// Keyboard and mouse of the game's window.
+namespace glonks {
+
+// One byte per DirectInput scan code, not 0 while the key is down. Scan codes name physical keys,
+// whatever the keyboard's layout.
+using KeyState = std::array<unsigned char, 256>;
+
+class DirectInputDevice {
+ public:
+  // 1 keyboard, 2 mouse.
+  void SetCommonDataFormat(i32 format);
+  // `flags` 0xA: not exclusive, in the background too.
+  void SetCooperativeLevel(i32 hWnd, i32 flags);
+  void Acquire();
+  // The keys as they stand at the message that is being handled. Losing the focus lets all keys go.
+  // Raises serviceFailed on a device that wasn't acquired.
+  void GetDeviceStateKeyboard(KeyState& state) const;
+
+ private:
+  i32 format_ = 0;
+  i32 hWnd_ = 0;
+  i32 flags_ = 0;
+  bool acquired_ = false;
+};
+
+class DirectInput {
+ public:
+  // `guid`: "GUID_SysKeyboard" or "GUID_SysMouse"; any other raises serviceFailed.
+  std::shared_ptr<DirectInputDevice> CreateDevice(const std::string& guid);
+};
+
+}  // namespace glonks

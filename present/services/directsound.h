@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "game/types.h"
+
+// Sound effects. Tests put a list of the sounds played in the place of the device.
+namespace glonks {
+
+// How a sample is held: flags 0xE2 (static, with control of frequency, pan and volume).
+struct SampleDesc {
+  i32 flags = 0;
+};
+
+struct SampleFormat {
+  i16 formatTag = 0;         // 1: PCM
+  i16 channels = 0;
+  i32 samplesPerSecond = 0;
+  i16 bitsPerSample = 0;
+  i16 blockAlign = 0;        // bytes of one sample of all channels
+  i32 bytesPerSecond = 0;
+};
+
+// A sample in memory.
+class DirectSoundBuffer {
+ public:
+  DirectSoundBuffer() = default;
+  virtual ~DirectSoundBuffer() = default;
+  DirectSoundBuffer(const DirectSoundBuffer&) = delete;
+  DirectSoundBuffer& operator=(const DirectSoundBuffer&) = delete;
+
+  // Sounds once, without waiting, over all that sounds already.
+  virtual void Play(i32 flags) = 0;
+  // Cuts the sample off wherever it sounds.
+  virtual void Stop() = 0;
+};
+
+using Sample = std::shared_ptr<DirectSoundBuffer>;
+
+class DirectSound {
+ public:
+  DirectSound() = default;
+  virtual ~DirectSound() = default;
+  DirectSound(const DirectSound&) = delete;
+  DirectSound& operator=(const DirectSound&) = delete;
+
+  // `level` 1: normal.
+  virtual void SetCooperativeLevel(i32 hWnd, i32 level) = 0;
+  // A sample from a wave file; it is brought to the device's own format. Raises fileNotFound or
+  // badFile, naming the file.
+  virtual Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
+                                           const SampleFormat& format) = 0;
+};
+
+// The default sound device, opened anew. Without one, all sounds are silent (see takeSoundNotice).
+std::shared_ptr<DirectSound> createDirectSound(const std::string& device);
+
+// What has happened to the sound device since the last call, as a line for the log; empty if nothing.
+std::string takeSoundNotice();
+
+}  // namespace glonks

@@ -1,0 +1,98 @@
+#include "present/services/gamefont.h"
+
+#include <SDL_ttf.h>
+#include <fontconfig/fontconfig.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "game/errors.h"
+#include "game/text.h"
+
+namespace glonks {
+namespace {
+
+constexpr unsigned dotsPerInch = 96;
+constexpr std::size_t mostPictures = 256;
+
+struct FontCloser {
+  void operator()(TTF_Font* font) const { TTF_CloseFont(font); }
+};
+using Font = std::unique_ptr<TTF_Font, FontCloser>;
+using FontKey = std::pair<std::string, i32>;
+
+// Fonts and pictures live to the end of the program: TTF_Quit is never called, as it would take the
+// fonts away from under their owners.
+std::map<FontKey, Font> fonts;
+std::map<std::pair<FontKey, std::string>, TextPicture> pictures;
+
+[[noreturn]] void fail(const std::string& name, const std::string& reason) {
+  throw RuntimeError(ErrorNumber::serviceFailed,
+                     "The font \"" + name + "\" can't be used (" + reason + ").");
+}
+
+// The file of the font that the system gives for a name.
+std::string fontFile(const std::string& name) {
+  if (FcInit() != FcTrue) fail(name, "the list of fonts can't be read");
+  const std::unique_ptr<FcPattern, void (*)(FcPattern*)> wanted(FcPatternCreate(),
+                                                                FcPatternDestroy);
+  FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.c_str()));
+  FcPatternAddBool(wanted.get(), FC_SCALABLE, FcTrue);
+  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+  FcDefaultSubstitute(wanted.get());
+  FcResult result = FcResultNoMatch;
+  const std::unique_ptr<FcPattern, void (*)(FcPattern*)> match(
+      FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
+  FcChar8* file = nullptr;
+  if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &file) != FcResultMatch) {
+    fail(name, "the system has no font");
+  }
+  return reinterpret_cast<const char*>(file);
+}
+
+TTF_Font* fontFor(const FontKey& key) {
+  Font& font = fonts[key];
+  if (font) return font.get();
+  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(key.first, TTF_GetError());
+  font.reset(TTF_OpenFontDPI(fontFile(key.first).c_str(), key.second, dotsPerInch, dotsPerInch));
+  if (!font) fail(key.first, TTF_GetError());
+  return font.get();
+}
+
+TextPicture rendered(TTF_Font* font, std::string text) {
+  for (char& c : text) {
+    if (static_cast<unsigned char>(c) < ' ') c = ' ';
+  }
+  SDL_Surface* surface =
+      TTF_RenderUTF8_Blended(font, toUtf8(text).c_str(), SDL_Color{255, 255, 255, 255});
+  TextPicture picture;
+  if (surface == nullptr) return picture;  // nothing in it that could be seen
+  picture.width = surface->w;
+  picture.height = surface->h;
+  picture.coverage.reserve(static_cast<std::size_t>(surface->w) * surface->h);
+  for (int y = 0; y < surface->h; ++y) {
+    const auto* row = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(surface->pixels) +
+                                                      static_cast<std::size_t>(y) * surface->pitch);
+    for (int x = 0; x < surface->w; ++x) {
+      picture.coverage.push_back(static_cast<unsigned char>(row[x] >> 24U));
+    }
+  }
+  SDL_FreeSurface(surface);
+  return picture;
+}
+
+}  // namespace
+
+void loadFont(const std::string& name, i32 points) { fontFor({name, points}); }
+
+const TextPicture& textPicture(const std::string& fontName, i32 points, const std::string& text) {
+  const FontKey font{fontName, points};
+  const auto known = pictures.find({font, text});
+  if (known != pictures.end()) return known->second;
+  if (pictures.size() >= mostPictures) pictures.clear();
+  return pictures[{font, text}] = rendered(fontFor(font), text);
+}
+
+}  // namespace glonks

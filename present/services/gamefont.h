@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "game/types.h"
+
+// Inside the services: fonts of the system, and texts as pictures.
+namespace glonks {
+
+// One line of text: how much of each pixel the letters cover, 0 to 255, rows from the top.
+struct TextPicture {
+  i32 width = 0;
+  i32 height = 0;
+  std::vector<unsigned char> coverage;
+};
+
+// Makes a font ready. The system gives the one it has in the place of a name that it doesn't know.
+// `points` at 96 to the inch. Raises serviceFailed, naming the font, if there is none at all.
+void loadFont(const std::string& name, i32 points);
+
+// The picture of a Windows-1252 text in a font. It stays valid until the next call.
+const TextPicture& textPicture(const std::string& fontName, i32 points, const std::string& text);
+
+}  // namespace glonks

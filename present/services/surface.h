@@ -1,0 +1,118 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "game/types.h"
+
+// Surfaces: pictures in memory that can be drawn on and blitted to each other.
+namespace glonks {
+
+// Left, top, right, bottom in pixels, right and bottom exclusive. Four zeros: the whole surface.
+struct Rect {
+  i32 left = 0;
+  i32 top = 0;
+  i32 right = 0;
+  i32 bottom = 0;
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+// A colour of three parts from 0 to 255, as a 32-bit number 0x00RRGGBB.
+constexpr i32 RGB(i32 red, i32 green, i32 blue) { return red << 16 | green << 8 | blue; }
+
+// The range of colours that a keyed blit leaves out.
+struct ColorKey {
+  i32 low = 0;
+  i32 high = 0;
+};
+
+struct SurfaceDesc {
+  i32 flags = 0;            // 0x1 caps, 0x20 back-buffer count
+  i32 caps = 0;             // 0x4 back buffer, 0x8 complex, 0x10 flip, 0x200 primary
+  i32 backBufferCount = 0;
+  i32 width = 0;            // pixels
+  i32 height = 0;
+};
+
+struct GameFont {
+  std::string name;
+  i32 size = 0;  // points, 96 to 72 pixels
+};
+
+// Flags of Blt.
+inline constexpr i32 bltOpaque = 0x1000000;  // wait
+inline constexpr i32 bltKeyed = 0x1008000;   // wait, source key
+inline constexpr i32 flipWait = 1;
+inline constexpr i32 sourceBlitKey = 8;
+
+class DirectDrawSurface7;
+using Surface = std::shared_ptr<DirectDrawSurface7>;
+
+class DirectDrawSurface7 {
+ public:
+  // A black surface of the given size in pixels.
+  DirectDrawSurface7(i32 width, i32 height);
+  ~DirectDrawSurface7();
+  DirectDrawSurface7(const DirectDrawSurface7&) = delete;
+  DirectDrawSurface7& operator=(const DirectDrawSurface7&) = delete;
+
+  i32 width() const { return width_; }
+  i32 height() const { return height_; }
+
+  // Rows from the top, pixels 0x00RRGGBB.
+  const u32* pixels() const { return pixels_.data(); }
+  u32 pixel(i32 x, i32 y) const { return pixels_[static_cast<std::size_t>(y) * width_ + x]; }
+  void setPixels(std::vector<u32> pixels);  // of exactly this surface's size
+
+  // `flags` 8, source blit: pixels of the key's colours are left out of keyed blits from here.
+  void SetColorKey(i32 flags, const ColorKey& key);
+
+  // Draws the rectangle `from` of `source` into the rectangle `to` of this surface, stretched where
+  // the sizes differ, and cut off at this surface's edges. An empty source draws nothing. Gives 0,
+  // or another status where nothing could be drawn.
+  i32 Blt(const Rect& to, const Surface& source, const Rect& from, i32 flags);
+
+  // Fills a rectangle with one colour.
+  i32 BltColorFill(const Rect& to, i32 color);
+
+  // The font of DrawText. Raises serviceFailed if the system has none to give.
+  void SetFont(const GameFont& font);
+  void SetForeColor(i32 color);
+  // True: no box behind the text. False: a black one.
+  void SetFontTransparency(Flag transparent);
+
+  // One line of text with its top left at (x, y). Drawing a text again where it stands already
+  // changes nothing, so that its smooth edges don't grow.
+  void DrawText(i32 x, i32 y, const std::string& text, Flag atCursor);
+
+  // A primary surface's: its back buffer (`caps` 4), and showing that on the screen.
+  Surface GetAttachedSurface(i32 caps);
+  void attachBackBuffer(Surface backBuffer);
+  void Flip(const Surface& overrideSurface, i32 flags);
+
+ private:
+  struct Prepared;
+  struct StandingText;
+
+  Rect wholeIfZero(const Rect& rect) const;
+  const Prepared& prepared(const Rect& from, i32 width, i32 height, bool keyed);
+  bool isKey(u32 pixel) const;
+  void changed();
+
+  i32 width_;
+  i32 height_;
+  std::vector<u32> pixels_;
+  bool hasKey_ = false;
+  ColorKey key_;
+  std::vector<Prepared> prepared_;  // what blits from here have used lately
+  std::size_t nextPrepared_ = 0;
+  Surface backBuffer_;
+  GameFont font_;
+  i32 foreColor_ = 0;
+  Flag transparent_ = True;
+  std::vector<StandingText> standing_;
+  std::size_t nextStanding_ = 0;
+};
+
+}  // namespace glonks

@@ -1,0 +1,78 @@
+#include "rules/falling.h"
+
+#include "game/model.h"
+#include "game/random.h"
+#include "game/resources.h"
+#include "rules/bowling.h"
+
+namespace glonks {
+namespace {
+
+constexpr i16 lastBounce = 5;
+constexpr double bounceFactor = 0.75;
+constexpr i16 ballEnd = 500;  // a ball below this y, and below the floor, has gone
+
+void digWithBall(Piece& ball) {
+  const auto target = static_cast<i16>(firstFreeRow(ball.column) - 1);
+  if (target > -1) bowlOver(target, ball.column);
+  if (ball.y > ballEnd) ball.alive = False;
+}
+
+void bounce(Piece& piece, i16 floor) {
+  piece.velocity = static_cast<i16>(roundHalfEven(-piece.velocity * bounceFactor));
+  ++piece.bounces;
+  piece.y = floor;
+  piece.landSound = connectSounds[static_cast<std::size_t>(drawBelow(3))];
+  piece.landSound->Play(0);
+}
+
+}  // namespace
+
+i16 firstFreeRow(i16 column) {
+  for (i16 row = 0; row < rowCount; ++row) {
+    if (playfield[static_cast<std::size_t>(row)][column].occupied == False) return row;
+  }
+  return 0;
+}
+
+void movePieces() {
+  const i16 upper = fallingPiecesUpper;
+  for (i16 i = 0; i <= upper; ++i) {
+    Piece& piece = fallingPieces[static_cast<std::size_t>(i)];
+    ++piece.velocity;
+    piece.y = static_cast<i16>(piece.y + piece.velocity);
+    const i16 floor = floorOf(firstFreeRow(piece.column));
+    if (piece.y > floor) {
+      if (piece.isBowlingBall != False) {
+        digWithBall(piece);
+      } else {
+        bounce(piece, floor);
+      }
+    }
+    if (piece.bounces == lastBounce) {
+      piece.alive = False;
+      if (piece.isBowlingBall == False) landPiece(i, piece.column);
+    }
+  }
+}
+
+void landPiece(i16 index, i16 column) {
+  for (Row& row : playfield) {
+    Cell& cell = row[column];
+    if (cell.occupied != False) continue;
+    cell.occupied = True;
+    static_cast<Piece&>(cell) = fallingPieces[static_cast<std::size_t>(index)];
+    if (landOn == True && cell.tallied == False && cell.name == landName) --landLeft;
+    cell.tallied = True;
+    return;
+  }
+  _gameover->Play(0);
+  gameOver = True;
+}
+
+void compactFalling() {
+  std::erase_if(fallingPieces, [](const Piece& piece) { return piece.alive != True; });
+  fallingPiecesUpper = static_cast<i16>(static_cast<i32>(fallingPieces.size()) - 1);
+}
+
+}  // namespace glonks

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "game/types.h"
+
+namespace glonks {
+
+// Destroys the piece in a cell, with all that follows from losing it: points, credits, notes, level
+// goals, what its kind does. An empty cell is left alone.
+void removePiece(i16 row, i16 column);
+
+// The Bomb in a cell goes off and takes its bombable neighbours with it.
+void explodeBomb(i16 row, i16 column);
+
+}  // namespace glonks

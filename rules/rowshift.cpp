@@ -1,0 +1,42 @@
+#include "rules/rowshift.h"
+
+#include "game/model.h"
+#include "game/resources.h"
+
+namespace glonks {
+
+void shiftRow(Flag toLeft) {
+  const i16 step = toLeft == True ? -1 : 1;
+  Row& row = playfield[static_cast<std::size_t>(selectedRow)];
+  Row shifted;
+  for (Cell& cell : row.cells) {
+    if (cell.occupied != True) continue;
+    cell.column = static_cast<i16>(cell.column + step);
+    if (cell.column >= columnCount) cell.column = 0;
+    if (cell.column < 0) cell.column = columnCount - 1;
+    Cell& place = shifted[cell.column];
+    static_cast<Piece&>(place) = cell;
+    place.occupied = True;
+  }
+  _changerow->Play(0);
+  row = shifted;
+  settlePieces();
+}
+
+void settlePieces() {
+  constexpr i16 bouncesOfSettling = 4;
+  for (std::size_t row = 1; row < playfield.size(); ++row) {
+    for (i32 column = 0; column < columnCount; ++column) {
+      Cell& cell = playfield[row][column];
+      if (cell.occupied != True || playfield[row - 1][column].occupied != False) continue;
+      Piece& piece = grow(fallingPieces, fallingPiecesUpper);
+      piece = cell;
+      piece.bounces = bouncesOfSettling;
+      piece.alive = True;
+      cell.occupied = False;
+      cell.alive = False;
+    }
+  }
+}
+
+}  // namespace glonks

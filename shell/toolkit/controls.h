@@ -1,0 +1,116 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "game/types.h"
+
+// The controls of the menu's windows as plain data. The toolkit mirrors them on the screen; without
+// a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are Windows-1252.
+namespace glonks {
+
+inline constexpr i32 twipsPerPixel = 15;
+
+using Handler = void (*)();  // may be nullptr: nothing happens then
+
+struct Control {
+  i32 left = 0;
+  i32 top = 0;
+  i32 width = 0;
+  i32 height = 0;
+  i16 tabIndex = -1;  // place in the order of the Tab key; -1: never gets the focus
+  Flag visible = True;
+  Flag enabled = True;
+};
+
+struct Label : Control {
+  std::string caption;
+};
+
+// Several lines to read, with a scroll bar.
+struct TextBox : Control {
+  std::string text;
+};
+
+// A picture stretched over the control (a path of the game, or of the program's own pictures); with
+// no picture a hot spot, which shows nothing and only takes clicks.
+struct Image : Control {
+  std::string picture;
+  std::string hint;  // what a hot spot does, for those who can't see the picture below it
+  Handler click = nullptr;
+};
+
+// Choices with at most one selected. `click` runs whenever one is chosen, by the player or by
+// setListIndex and setText.
+struct Choices : Control {
+  std::vector<std::string> items;
+  std::vector<i32> itemData;  // as many as items
+  i16 listIndex = -1;         // -1: none selected
+  Flag sorted = False;        // items in alphabetical order, whatever the order of adding
+  Handler click = nullptr;
+};
+struct ComboBox : Choices {};
+struct ListBox : Choices {};
+
+// `change` runs at the end of a move, and when setValue moves the bar; `scroll` during a drag.
+struct HScrollBar : Control {
+  i16 min = 0;
+  i16 max = 100;
+  i16 value = 0;
+  i16 smallChange = 1;
+  i16 largeChange = 1;
+  Handler change = nullptr;
+  Handler scroll = nullptr;
+};
+
+struct Frame;
+using ControlRef =
+    std::variant<Label*, TextBox*, Image*, ComboBox*, ListBox*, HScrollBar*, Frame*>;
+
+// A page: its controls, from back to front.
+struct Frame : Control {
+  std::vector<ControlRef> controls;
+};
+
+struct MenuEntry {
+  std::string caption;
+  Handler click = nullptr;
+};
+struct Menu {
+  std::string caption;
+  std::vector<MenuEntry> entries;
+};
+
+// A window: its inside in twips, its controls from back to front, and what runs when the player
+// closes it. It opens in the centre of the screen and can't be maximised.
+struct Form {
+  std::string caption;
+  i32 width = 0;
+  i32 height = 0;
+  std::vector<Menu> menus;
+  std::vector<ControlRef> controls;
+  Handler unload = nullptr;
+};
+
+// Changes to choices.
+void clearItems(Choices& list);  // drops the selection too
+void addItem(Choices& list, const std::string& text, i32 data = 0);
+
+// Selects an item, or none for -1, and runs `click` if that selects one. Raises badCall for an index
+// that isn't there.
+void setListIndex(Choices& list, i32 index);
+
+// Selects the item with this text, as setListIndex does; a text that isn't there selects none.
+void setText(Choices& list, const std::string& text);
+
+// The text of the selected item, empty if there is none.
+std::string textOf(const Choices& list);
+
+// Moves a scroll bar, within its range, and runs `change` if that moves it at all.
+void setValue(HScrollBar& bar, i16 value);
+
+// Runs a handler if there is one.
+void run(Handler handler);
+
+}  // namespace glonks

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QApplication>
+#include <QString>
+#include <string>
+
+#include "game/types.h"
+
+// Size and looks of everything that the toolkit shows.
+namespace glonks {
+
+// Sets factor, fonts, colours and style sheet, to suit the main screen.
+void applyStyle(QApplication& application);
+
+// The whole factor, 1 to 4, by which windows, fonts and all else are enlarged.
+int scaleFactor();
+
+// A length in twips as screen pixels.
+int pixels(i32 twips);
+
+// A text of the program (Windows-1252) as Qt takes it.
+QString shownText(const std::string& text);
+
+}  // namespace glonks

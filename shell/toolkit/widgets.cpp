@@ -1,0 +1,113 @@
+#include "shell/toolkit/widgets.h"
+
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "shell/toolkit/style.h"
+
+namespace glonks {
+
+PictureView::PictureView(QWidget* parent) : QWidget(parent) {}
+
+void PictureView::setFile(const QString& file) {
+  file_ = file;
+  fittedTo_ = QSize();
+  update();
+}
+
+void PictureView::fitTo(const QSize& size) {
+  if (size == fittedTo_) return;
+  fittedTo_ = size;
+  QImageReader reader(file_);
+  reader.setDecideFormatFromContent(true);
+  const QImage image = file_.isEmpty() ? QImage() : reader.read();
+  fitted_ = QPixmap::fromImage(
+      image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  fitTo(size() * devicePixelRatioF());
+  if (!fitted_.isNull()) QPainter(this).drawPixmap(rect(), fitted_);
+}
+
+HotSpot::HotSpot(QWidget* parent) : QAbstractButton(parent) {
+  setAttribute(Qt::WA_Hover);
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);  // a click leaves the focus with the list that it is about
+}
+
+void HotSpot::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter) return QAbstractButton::keyPressEvent(event);
+  if (!event->isAutoRepeat()) click();
+}
+
+void HotSpot::paintEvent(QPaintEvent*) {
+  if (!isEnabled() || !(hasFocus() || underMouse())) return;
+  const qreal pixel = scaleFactor();
+  const QRectF inside = QRectF(rect()).adjusted(pixel, pixel, -pixel, -pixel);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(isDown() ? QColor(0, 0, 0, 60) : QColor(255, 255, 255, 26));
+  painter.setPen(QPen(QColor(255, 255, 255, 60), 2 * pixel));
+  painter.drawRoundedRect(inside, 5 * pixel, 5 * pixel);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(255, 255, 255, hasFocus() ? 220 : 130), pixel));
+  painter.drawRoundedRect(inside, 5 * pixel, 5 * pixel);
+}
+
+void DropDown::paintEvent(QPaintEvent* event) {
+  QComboBox::paintEvent(event);
+  const qreal pixel = scaleFactor();
+  const QPointF tip(width() - 10 * pixel, height() / 2.0 + 1.75 * pixel);
+  const QPointF arrow[] = {tip + QPointF(-3.5, -3.5) * pixel, tip, tip + QPointF(3.5, -3.5) * pixel};
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor colour = palette().color(isEnabled() ? QPalette::Highlight : QPalette::Mid);
+  painter.setPen(QPen(colour, 1.5 * pixel, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(arrow, 3);
+}
+
+ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent) {
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setUniformItemSizes(true);
+}
+
+int ChoiceList::selectedRow() const {
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void ChoiceList::selectRow(int row) {
+  setCurrentRow(row);
+  if (row < 0) clearSelection();
+}
+
+void ChoiceList::keyPressEvent(QKeyEvent* event) {
+  const int before = selectedRow();
+  const bool move = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (before < 0 && move) {  // Qt would pass over the first row, which the focus is on
+    setCurrentRow(0);
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
+  const int now = selectedRow();
+  if (now >= 0 && now != before) chosen(now);
+}
+
+void ChoiceList::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = indexAt(event->position().toPoint()).isValid();
+  QListWidget::mousePressEvent(event);
+}
+
+void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
+  QListWidget::mouseReleaseEvent(event);
+  if (std::exchange(pressed_, false) && selectedRow() >= 0) chosen(selectedRow());
+}
+
+}  // namespace glonks

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPixmap>
+#include <functional>
+
+// The widgets that Qt doesn't have in the form that the controls need.
+namespace glonks {
+
+// A picture, stretched over the widget.
+class PictureView : public QWidget {
+ public:
+  explicit PictureView(QWidget* parent);
+
+  // Shows the picture of this file, or nothing if it can't be loaded or the name is empty.
+  void setFile(const QString& file);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void fitTo(const QSize& size);
+
+  QString file_;
+  QPixmap fitted_;   // the picture in the size of the widget
+  QSize fittedTo_;   // the size in screen pixels that fitted_ was made for
+};
+
+// A button that shows nothing but a frame while the focus or the mouse is on it.
+class HotSpot : public QAbstractButton {
+ public:
+  explicit HotSpot(QWidget* parent);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// A drop-down list with an arrow that suits the style.
+class DropDown : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// A list with at most one row selected. `chosen` runs when the player has chosen a row, also the one
+// that was selected already; not when the program selects one.
+class ChoiceList : public QListWidget {
+ public:
+  explicit ChoiceList(QWidget* parent);
+
+  int selectedRow() const;  // -1: none
+  void selectRow(int row);
+
+  std::function<void(int row)> chosen;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool pressed_ = false;  // on a row, by the mouse
+};
+
+}  // namespace glonks

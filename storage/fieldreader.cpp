@@ -1,0 +1,65 @@
+#include "storage/fieldreader.h"
+
+#include <cmath>
+
+#include "game/errors.h"
+#include "game/text.h"
+#include "storage/textchannels.h"
+
+namespace glonks {
+namespace {
+
+std::string place(i16 channel, const std::string& fieldName) {
+  return "The file \"" + channelName(channel) + "\" is damaged: its field " + fieldName + " ";
+}
+
+template <typename Whole>
+Whole fitting(i16 channel, const std::string& fieldName, double number) {
+  using Limits = std::numeric_limits<Whole>;
+  return static_cast<Whole>(
+      roundedField(channel, fieldName, number, Limits::min(), Limits::max()));
+}
+
+double wholeNumber(i16 channel, const std::string& fieldName) {
+  const std::string text = readField(channel, fieldName);
+  if (!isNumber(text)) {
+    throw RuntimeError(ErrorNumber::typeMismatch, place(channel, fieldName) + "isn't a number.");
+  }
+  return std::floor(leadingNumber(text));
+}
+
+}  // namespace
+
+i32 roundedField(i16 channel, const std::string& fieldName, double number, i32 low, i32 high) {
+  const double rounded = roundHalfEven(number);
+  if (!(rounded >= low && rounded <= high)) {
+    throw RuntimeError(ErrorNumber::overflow, place(channel, fieldName) + "is out of range.");
+  }
+  return static_cast<i32>(rounded);
+}
+
+i16 readI16(i16 channel, const std::string& fieldName) {
+  return fitting<i16>(channel, fieldName, leadingNumber(readField(channel, fieldName)));
+}
+
+i32 readI32(i16 channel, const std::string& fieldName) {
+  return fitting<i32>(channel, fieldName, leadingNumber(readField(channel, fieldName)));
+}
+
+Flag readFlag(i16 channel, const std::string& fieldName) {
+  return flagOf(leadingNumber(readField(channel, fieldName)) != 0);
+}
+
+i16 readWholeI16(i16 channel, const std::string& fieldName) {
+  return fitting<i16>(channel, fieldName, wholeNumber(channel, fieldName));
+}
+
+i32 readWholeI32(i16 channel, const std::string& fieldName) {
+  return fitting<i32>(channel, fieldName, wholeNumber(channel, fieldName));
+}
+
+void badField(i16 channel, const std::string& fieldName, const std::string& trouble) {
+  throw RuntimeError(ErrorNumber::badFile, place(channel, fieldName) + trouble);
+}
+
+}  // namespace glonks

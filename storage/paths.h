@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// The program's folder, and the one way from the paths that the game uses to those of the system.
+namespace glonks {
+
+// Sets the folder that holds the program and all that it reads. Called once at start.
+void setProgramFolder(std::filesystem::path folder);
+const std::filesystem::path& programFolder();
+
+// The system's path of a game path. One that begins with a backslash ("\init\6095") lies under the
+// program's folder, its backslashes parting the folders and its text in Windows-1252; any other is
+// taken as it stands.
+std::filesystem::path nativePath(std::string_view path);
+
+}  // namespace glonks

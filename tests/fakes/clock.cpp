@@ -1,0 +1,28 @@
+#include "tests/fakes/clock.h"
+
+#include "game/clock.h"
+
+namespace glonks {
+
+namespace fake {
+
+void resetClock() {
+  clockNow = 1000;
+  sleeps = 0;
+  nextSeed = 1;
+}
+
+}  // namespace fake
+
+u32 GetTickCount() { return fake::clockNow; }
+
+void sleepToNextTick() {
+  ++fake::sleeps;
+  ++fake::clockNow;
+}
+
+i32 clockSeed() { return fake::nextSeed++; }
+std::string dateText() { return "01/02/03"; }
+std::string timeText() { return "04:05:06"; }
+
+}  // namespace glonks

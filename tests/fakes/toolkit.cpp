@@ -1,0 +1,32 @@
+#include "tests/fakes/toolkit.h"
+
+#include "shell/toolkit/toolkit.h"
+
+namespace glonks {
+
+namespace fake {
+
+void resetToolkit() {
+  boxes.clear();
+  forms.clear();
+  messages = nullptr;
+  messagePasses = 0;
+}
+
+}  // namespace fake
+
+void startToolkit(int /*argc*/, char** /*argv*/) {}
+std::filesystem::path folderOfProgram() { return {}; }
+FolderHold holdFolder(const std::filesystem::path& /*folder*/) { return FolderHold::held; }
+void showForm(Form& form) { fake::forms.push_back("show " + form.caption); }
+void hideForm(Form& form) { fake::forms.push_back("hide " + form.caption); }
+void runEvents() {}
+void endProgram() {}
+void messageBox(const std::string& text) { fake::boxes.push_back(text); }
+
+void letMessagesThrough() {
+  ++fake::messagePasses;
+  if (fake::messages) fake::messages();
+}
+
+}  // namespace glonks

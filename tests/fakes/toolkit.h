@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "game/types.h"
+
+// A toolkit without a screen, linked in the place of the real one.
+namespace glonks::fake {
+
+inline std::vector<std::string> boxes;  // texts of message boxes, in order
+inline std::vector<std::string> forms;  // "show Glonks", "hide Glonks" ...
+
+// Runs at each letMessagesThrough, where events would be handled; counts the calls.
+inline std::function<void()> messages;
+inline i32 messagePasses = 0;
+
+void resetToolkit();
+
+}  // namespace glonks::fake

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <array>
+#include <initializer_list>
+
+#include "game/types.h"
+
+// A window without a screen, linked in the place of the real one.
+namespace glonks::fake {
+
+inline std::array<unsigned char, 256> keys = {};  // by scan code
+inline bool screenIsLost = false;
+inline i32 picturesShown = 0;
+inline bool windowOpen = false;
+inline i32 cursorShown = 1;  // the last argument of ShowCursor
+
+// The keys that are down, and a key event for them.
+void pressKeys(std::initializer_list<i32> scanCodes);
+
+void resetWindow();
+
+}  // namespace glonks::fake

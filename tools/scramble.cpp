@@ -1,0 +1,51 @@
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include "game/errors.h"
+#include "storage/paths.h"
+#include "storage/scrambledfiles.h"
+
+// Scrambles the plain data files into the game's folder: scramble <data> <game folder>.
+// Files that belong to the player (scores, bank, open levels) are written only where they are
+// missing, so that a rebuild takes nothing away.
+namespace {
+
+namespace fs = std::filesystem;
+using namespace glonks;
+
+bool isPlayersOwn(const std::string& name) {
+  return name == "6095" || name == "6702" || name == "6537";
+}
+
+void scrambleFolder(const fs::path& data, const std::string& folder) {
+  fs::create_directories(programFolder() / folder);
+  for (const fs::directory_entry& entry : fs::directory_iterator(data / folder)) {
+    const std::string name = entry.path().filename().string();
+    const fs::path target = programFolder() / folder / name;
+    if (isPlayersOwn(name) && fs::exists(target)) continue;
+    scrambleFile(entry.path().string(), "\\" + folder + "\\" + name);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: scramble <data folder> <game folder>\n";
+    return EXIT_FAILURE;
+  }
+  try {
+    setProgramFolder(fs::absolute(argv[2]));
+    makeKeys(keySeed, keyDrawArgument, keyScale);
+    const fs::path data = fs::absolute(argv[1]);
+    scrambleFolder(data, "init");
+    scrambleFolder(data, "levels");
+  } catch (const std::exception& error) {
+    std::cerr << "scramble: " << error.what() << '\n';
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}
