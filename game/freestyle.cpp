@@ -15,12 +15,12 @@
 namespace glonks {
 namespace {
 
-constexpr i32 noteChance = 2000;       // a spawn is a Music note once in so many
+constexpr i32 noteChance = 2000;  // a spawn is a Music note once in so many
 constexpr i32 noteDraw = 1;
-constexpr i32 notesLimit = 9;          // while fewer have been collected
-constexpr i32 frogBonusScore = 60000;  // the bonus starts above it
-constexpr i32 frogBonusLength = 60000; // ms
-constexpr i32 paradeOvertime = 3000;   // ms for which the parade runs on after the bonus
+constexpr i32 notesLimit = 9;           // while fewer have been collected
+constexpr i32 frogBonusScore = 60000;   // the bonus starts above it
+constexpr i32 frogBonusLength = 60000;  // ms
+constexpr i32 paradeOvertime = 3000;    // ms for which the parade runs on after the bonus
 constexpr i32 scoreX = 83;
 constexpr i32 scoreY = 45;
 

@@ -25,7 +25,8 @@ std::string plainNumber(i64 number);
 std::string signedNumber(i64 number);
 
 // Windows-1252 to UTF-8 and back. The five codes that the set leaves open stand for the control
-// characters of the same number. What the set doesn't have, and bytes that are no UTF-8, become "?".
+// characters of the same number. What the set doesn't have, and bytes that are no UTF-8, become
+// "?".
 std::string toUtf8(std::string_view text);
 std::string fromUtf8(std::string_view utf8);
 

@@ -21,7 +21,7 @@ inline std::shared_ptr<DirectSound> ds;
 inline ColorKey colorKey;  // white; for every keyed picture
 inline SampleDesc sampleDesc;
 inline SampleFormat sampleFormat;
-inline i16 screenWidth = 0;   // pixels
+inline i16 screenWidth = 0;  // pixels
 inline i16 screenHeight = 0;
 
 // Sets all of it up, with a log line before each step. Expects fConsole to be loaded and shown.

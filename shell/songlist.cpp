@@ -7,9 +7,8 @@ namespace glonks {
 void popSongs() {
   clearItems(songs);
   songs.sorted = True;
-  for (const char* row :
-       {"Paper Lanterns - Slow Parade", "The Tin Orchard - Clockwork Rain",
-        "Velvet Gears - Night Bus Home", "Low Tide Radio - Seven Rows"}) {
+  for (const char* row : {"Paper Lanterns - Slow Parade", "The Tin Orchard - Clockwork Rain",
+                          "Velvet Gears - Night Bus Home", "Low Tide Radio - Seven Rows"}) {
     addItem(songs, row);
   }
 }

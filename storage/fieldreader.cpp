@@ -16,8 +16,7 @@ std::string place(i16 channel, const std::string& fieldName) {
 template <typename Whole>
 Whole fitting(i16 channel, const std::string& fieldName, double number) {
   using Limits = std::numeric_limits<Whole>;
-  return static_cast<Whole>(
-      roundedField(channel, fieldName, number, Limits::min(), Limits::max()));
+  return static_cast<Whole>(roundedField(channel, fieldName, number, Limits::min(), Limits::max()));
 }
 
 double wholeNumber(i16 channel, const std::string& fieldName) {

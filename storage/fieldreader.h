@@ -6,7 +6,8 @@
 
 // Fields of an open text channel as values. A number is taken from the leading numeric part of the
 // field, 0 if there is none, and rounded to the nearest integer, halves to even. All raise
-// inputPastEnd where the file ends, and overflow where the number doesn't fit, naming file and field.
+// inputPastEnd where the file ends, and overflow where the number doesn't fit, naming file and
+// field.
 namespace glonks {
 
 i16 readI16(i16 channel, const std::string& fieldName);

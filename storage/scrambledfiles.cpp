@@ -147,8 +147,7 @@ void ScrambledReader::close() {
   deleteFile(tempPath);
 }
 
-ScrambledWriter::ScrambledWriter(const std::string& scrambledPath)
-    : scrambledPath_(scrambledPath) {
+ScrambledWriter::ScrambledWriter(const std::string& scrambledPath) : scrambledPath_(scrambledPath) {
   openChannel(channel, tempPath, ChannelMode::output, scrambledPath);
 }
 

@@ -42,8 +42,8 @@ std::string because(int error) { return std::string(" (") + std::strerror(error)
 Channel& opened(i16 channel, bool forInput) {
   const auto found = channels.find(channel);
   if (found == channels.end() || (found->second.mode == ChannelMode::input) != forInput) {
-    throw RuntimeError(ErrorNumber::channelUse, "Channel " + std::to_string(channel) +
-                                                    " isn't open for this use.");
+    throw RuntimeError(ErrorNumber::channelUse,
+                       "Channel " + std::to_string(channel) + " isn't open for this use.");
   }
   return found->second;
 }

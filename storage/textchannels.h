@@ -11,12 +11,12 @@ namespace glonks {
 enum class ChannelMode {
   input,   // reads an existing file
   output,  // writes a file anew at once
-  replace  // writes beside the file, and puts the complete, flushed new one in its place on closing;
-           // until then, and if anything fails, the old file stands
+  replace  // writes beside the file, and puts the complete, flushed new one in its place on
+           // closing; until then, and if anything fails, the old file stands
 };
 
-// Opens `path` (a game path, see nativePath) on `channel`, 1 to 511, which must be free. Errors name
-// the file as `shownAs`, or as `path` if that is empty. Raises fileNotFound or fileAccess.
+// Opens `path` (a game path, see nativePath) on `channel`, 1 to 511, which must be free. Errors
+// name the file as `shownAs`, or as `path` if that is empty. Raises fileNotFound or fileAccess.
 void openChannel(i16 channel, const std::string& path, ChannelMode mode,
                  const std::string& shownAs = "");
 

@@ -14,7 +14,7 @@ namespace {
 constexpr i32 fullVolume = 100;
 
 Mix_Music* song = nullptr;
-u32 songHandle = 0;   // of `song`, or of the silent one
+u32 songHandle = 0;  // of `song`, or of the silent one
 u32 lastHandle = 0;
 bool silent = false;  // a song without a device to play on
 bool halted = false;

@@ -32,7 +32,8 @@ class DirectDraw7 {
   // Raises fileNotFound or badFile, naming the file.
   Surface CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc);
 
-  // 0 while the game has the screen; another value while its window lacks the focus or is minimised.
+  // 0 while the game has the screen; another value while its window lacks the focus or is
+  // minimised.
   i32 TestCooperativeLevel() const;
 
   // Makes all surfaces usable again after a loss. They are kept in memory, so nothing is lost.

@@ -31,7 +31,8 @@ void DirectInputDevice::GetDeviceStateKeyboard(KeyState& state) const {
 
 std::shared_ptr<DirectInputDevice> DirectInput::CreateDevice(const std::string& guid) {
   if (guid != "GUID_SysKeyboard" && guid != "GUID_SysMouse") {
-    throw RuntimeError(ErrorNumber::serviceFailed, "CreateDevice: there is no device " + guid + ".");
+    throw RuntimeError(ErrorNumber::serviceFailed,
+                       "CreateDevice: there is no device " + guid + ".");
   }
   return std::make_shared<DirectInputDevice>();
 }

@@ -13,18 +13,18 @@
 namespace glonks {
 namespace {
 
-constexpr int deviceRate = 44100;      // samples a second
+constexpr int deviceRate = 44100;  // samples a second
 constexpr int deviceChannels = 2;
-constexpr int deviceBlock = 1024;      // samples at a time: 23 ms
-constexpr int channelsAtOnce = 32;     // voices to begin with; more are added when all sound
+constexpr int deviceBlock = 1024;   // samples at a time: 23 ms
+constexpr int channelsAtOnce = 32;  // voices to begin with; more are added when all sound
 constexpr int effectVolume = MIX_MAX_VOLUME * 3 / 4;  // leaves room for ten effects at once
 
 bool deviceOpen = false;
 std::string soundNotice;
 
 [[noreturn]] void failSample(const std::string& path) {
-  throw RuntimeError(ErrorNumber::badFile, "The sound \"" + path + "\" can't be used (" +
-                                               SDL_GetError() + ").");
+  throw RuntimeError(ErrorNumber::badFile,
+                     "The sound \"" + path + "\" can't be used (" + SDL_GetError() + ").");
 }
 
 // The bytes of a wave file that holds a sound.
@@ -99,8 +99,7 @@ void openAudioDevice() {
   }
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
     // Mix_OpenAudio holds the subsystem by itself from here.
-    deviceOpen =
-        Mix_OpenAudio(deviceRate, MIX_DEFAULT_FORMAT, deviceChannels, deviceBlock) == 0;
+    deviceOpen = Mix_OpenAudio(deviceRate, MIX_DEFAULT_FORMAT, deviceChannels, deviceBlock) == 0;
     if (!deviceOpen) noteSound(std::string("no sound: ") + SDL_GetError());
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
   } else {

@@ -14,11 +14,11 @@ struct SampleDesc {
 };
 
 struct SampleFormat {
-  i16 formatTag = 0;         // 1: PCM
+  i16 formatTag = 0;  // 1: PCM
   i16 channels = 0;
   i32 samplesPerSecond = 0;
   i16 bitsPerSample = 0;
-  i16 blockAlign = 0;        // bytes of one sample of all channels
+  i16 blockAlign = 0;  // bytes of one sample of all channels
   i32 bytesPerSecond = 0;
 };
 
@@ -56,7 +56,8 @@ class DirectSound {
 // The default sound device, opened anew. Without one, all sounds are silent (see takeSoundNotice).
 std::shared_ptr<DirectSound> createDirectSound(const std::string& device);
 
-// What has happened to the sound device since the last call, as a line for the log; empty if nothing.
+// What has happened to the sound device since the last call, as a line for the log; empty if
+// nothing.
 std::string takeSoundNotice();
 
 }  // namespace glonks

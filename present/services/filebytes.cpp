@@ -18,8 +18,8 @@ std::vector<unsigned char> fileBytes(const std::string& path) {
     throw RuntimeError(ErrorNumber::fileNotFound, "The file \"" + path + "\" can't be opened.");
   }
   if (size == 0 || size > most) {
-    throw RuntimeError(ErrorNumber::badFile, "The file \"" + path + "\" is " +
-                                                 (size == 0 ? "empty." : "far too large."));
+    throw RuntimeError(ErrorNumber::badFile,
+                       "The file \"" + path + "\" is " + (size == 0 ? "empty." : "far too large."));
   }
   std::vector<unsigned char> bytes(size);
   file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));

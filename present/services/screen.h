@@ -14,7 +14,13 @@ void closeScreen();
 
 // Shows a picture of the size given to openScreen, rows from the top, pixels 0x00RRGGBB. Waits so
 // that two pictures are never less than the time between two refreshes of a 60 Hz display apart.
+// With a graphics processor the picture goes up as one texture. Without one, only the parts that
+// differ from the picture before are scaled and sent, which is what makes 40 pictures a second
+// cheap there.
 void showPicture(const u32* pixels);
+
+// The window's content is gone: the next picture is painted whole.
+void repaintScreen();
 
 // True while the window lacks the keyboard's focus or is minimised.
 bool screenLost();

@@ -173,17 +173,23 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
   const bool keyed = (flags & bltKeyed) == bltKeyed && source->hasKey_;
 
   const Prepared& picture = source->prepared(part, width, height, keyed);
-  const i32 left = shown.left - target.left;  // the part of the picture that shows
-  const i32 right = shown.right - target.left;
-  for (const Prepared::Run& run : picture.runs) {
-    const i32 y = run.y + target.top;
-    if (y < shown.top || y >= shown.bottom) continue;
-    const i32 first = std::max(run.x, left);
-    const i32 end = std::min(run.x + run.length, right);
-    if (first >= end) continue;
-    const u32* row = &picture.pixels[static_cast<std::size_t>(run.y) * width];
-    std::memcpy(&pixels_[static_cast<std::size_t>(y) * width_ + (first + target.left)], row + first,
-                static_cast<std::size_t>(end - first) * sizeof(u32));
+  const auto copy = [&](i32 x, i32 y, i32 length) {
+    std::memcpy(&pixels_[static_cast<std::size_t>(y + target.top) * width_ + (x + target.left)],
+                &picture.pixels[static_cast<std::size_t>(y) * width + x],
+                static_cast<std::size_t>(length) * sizeof(u32));
+  };
+  if (shown == target) {
+    for (const Prepared::Run& run : picture.runs) copy(run.x, run.y, run.length);
+  } else {
+    const i32 left = shown.left - target.left;  // the part of the picture that shows
+    const i32 right = shown.right - target.left;
+    for (const Prepared::Run& run : picture.runs) {
+      const i32 y = run.y + target.top;
+      if (y < shown.top || y >= shown.bottom) continue;
+      const i32 first = std::max(run.x, left);
+      const i32 end = std::min(run.x + run.length, right);
+      if (first < end) copy(first, run.y, end - first);
+    }
   }
   changed();
   return 0;
@@ -215,7 +221,9 @@ void DirectDrawSurface7::DrawText(i32 x, i32 y, const std::string& text, Flag /*
   if (area.left >= area.right || area.top >= area.bottom) return;
 
   const auto areaWidth = static_cast<std::size_t>(area.right - area.left);
-  const auto rowAt = [&](i32 row) { return &pixels_[static_cast<std::size_t>(row) * width_ + area.left]; };
+  const auto rowAt = [&](i32 row) {
+    return &pixels_[static_cast<std::size_t>(row) * width_ + area.left];
+  };
   const auto known =
       std::find_if(standing_.begin(), standing_.end(), [&](const StandingText& standing) {
         return standing.x == x && standing.y == y && standing.text == text;

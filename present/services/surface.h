@@ -28,10 +28,10 @@ struct ColorKey {
 };
 
 struct SurfaceDesc {
-  i32 flags = 0;            // 0x1 caps, 0x20 back-buffer count
-  i32 caps = 0;             // 0x4 back buffer, 0x8 complex, 0x10 flip, 0x200 primary
+  i32 flags = 0;  // 0x1 caps, 0x20 back-buffer count
+  i32 caps = 0;   // 0x4 back buffer, 0x8 complex, 0x10 flip, 0x200 primary
   i32 backBufferCount = 0;
-  i32 width = 0;            // pixels
+  i32 width = 0;  // pixels
   i32 height = 0;
 };
 

@@ -4,27 +4,20 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <utility>
 
 #include "game/clock.h"
 #include "game/errors.h"
 #include "present/services/audiodevice.h"
+#include "present/services/gamewindow.h"
 #include "present/services/screen.h"
 
 namespace glonks {
 namespace {
 
-// Two pictures are at least this far apart, in milliseconds.
-constexpr u32 refreshPeriod = 16;
-constexpr i32 smallestWindow = 256;
+constexpr i32 smallestWindow = 256;  // pixels
 
 SDL_Window* window = nullptr;
-SDL_Renderer* renderer = nullptr;
-SDL_Texture* texture = nullptr;
-i32 pictureWidth = 0;
-i32 pictureHeight = 0;
-u32 lastShown = 0;  // tick of the last picture
 
 WindowEvents handlers;
 bool focusLost = false;
@@ -34,54 +27,99 @@ std::array<unsigned char, keyCount> keys = {};
 std::array<bool, SDL_NUM_SCANCODES> stale = {};
 
 // The physical keys and their DirectInput scan codes.
-constexpr std::pair<SDL_Scancode, unsigned char> scanCodes[] = {
-    {SDL_SCANCODE_ESCAPE, 1},        {SDL_SCANCODE_1, 2},
-    {SDL_SCANCODE_2, 3},             {SDL_SCANCODE_3, 4},
-    {SDL_SCANCODE_4, 5},             {SDL_SCANCODE_5, 6},
-    {SDL_SCANCODE_6, 7},             {SDL_SCANCODE_7, 8},
-    {SDL_SCANCODE_8, 9},             {SDL_SCANCODE_9, 10},
-    {SDL_SCANCODE_0, 11},            {SDL_SCANCODE_MINUS, 12},
-    {SDL_SCANCODE_EQUALS, 13},       {SDL_SCANCODE_BACKSPACE, 14},
-    {SDL_SCANCODE_TAB, 15},          {SDL_SCANCODE_Q, 16},
-    {SDL_SCANCODE_W, 17},            {SDL_SCANCODE_E, 18},
-    {SDL_SCANCODE_R, 19},            {SDL_SCANCODE_T, 20},
-    {SDL_SCANCODE_Y, 21},            {SDL_SCANCODE_U, 22},
-    {SDL_SCANCODE_I, 23},            {SDL_SCANCODE_O, 24},
-    {SDL_SCANCODE_P, 25},            {SDL_SCANCODE_LEFTBRACKET, 26},
-    {SDL_SCANCODE_RIGHTBRACKET, 27}, {SDL_SCANCODE_RETURN, 28},
-    {SDL_SCANCODE_LCTRL, 29},        {SDL_SCANCODE_A, 30},
-    {SDL_SCANCODE_S, 31},            {SDL_SCANCODE_D, 32},
-    {SDL_SCANCODE_F, 33},            {SDL_SCANCODE_G, 34},
-    {SDL_SCANCODE_H, 35},            {SDL_SCANCODE_J, 36},
-    {SDL_SCANCODE_K, 37},            {SDL_SCANCODE_L, 38},
-    {SDL_SCANCODE_SEMICOLON, 39},    {SDL_SCANCODE_APOSTROPHE, 40},
-    {SDL_SCANCODE_GRAVE, 41},        {SDL_SCANCODE_LSHIFT, 42},
-    {SDL_SCANCODE_BACKSLASH, 43},    {SDL_SCANCODE_Z, 44},
-    {SDL_SCANCODE_X, 45},            {SDL_SCANCODE_C, 46},
-    {SDL_SCANCODE_V, 47},            {SDL_SCANCODE_B, 48},
-    {SDL_SCANCODE_N, 49},            {SDL_SCANCODE_M, 50},
-    {SDL_SCANCODE_COMMA, 51},        {SDL_SCANCODE_PERIOD, 52},
-    {SDL_SCANCODE_SLASH, 53},        {SDL_SCANCODE_RSHIFT, 54},
-    {SDL_SCANCODE_KP_MULTIPLY, 55},  {SDL_SCANCODE_LALT, 56},
-    {SDL_SCANCODE_SPACE, 57},        {SDL_SCANCODE_CAPSLOCK, 58},
-    {SDL_SCANCODE_F1, 59},           {SDL_SCANCODE_F2, 60},
-    {SDL_SCANCODE_F3, 61},           {SDL_SCANCODE_F4, 62},
-    {SDL_SCANCODE_F5, 63},           {SDL_SCANCODE_F6, 64},
-    {SDL_SCANCODE_F7, 65},           {SDL_SCANCODE_F8, 66},
-    {SDL_SCANCODE_F9, 67},           {SDL_SCANCODE_F10, 68},
-    {SDL_SCANCODE_KP_7, 71},         {SDL_SCANCODE_KP_8, 72},
-    {SDL_SCANCODE_KP_9, 73},         {SDL_SCANCODE_KP_4, 75},
-    {SDL_SCANCODE_KP_5, 76},         {SDL_SCANCODE_KP_6, 77},
-    {SDL_SCANCODE_KP_1, 79},         {SDL_SCANCODE_KP_2, 80},
-    {SDL_SCANCODE_KP_3, 81},         {SDL_SCANCODE_KP_0, 82},
-    {SDL_SCANCODE_F11, 87},          {SDL_SCANCODE_F12, 88},
-    {SDL_SCANCODE_KP_ENTER, 156},    {SDL_SCANCODE_RCTRL, 157},
-    {SDL_SCANCODE_RALT, 184},        {SDL_SCANCODE_HOME, 199},
-    {SDL_SCANCODE_UP, 200},          {SDL_SCANCODE_PAGEUP, 201},
-    {SDL_SCANCODE_LEFT, 203},        {SDL_SCANCODE_RIGHT, 205},
-    {SDL_SCANCODE_END, 207},         {SDL_SCANCODE_DOWN, 208},
-    {SDL_SCANCODE_PAGEDOWN, 209},    {SDL_SCANCODE_INSERT, 210},
-    {SDL_SCANCODE_DELETE, 211}};
+constexpr std::pair<SDL_Scancode, unsigned char> scanCodes[] = {{SDL_SCANCODE_ESCAPE, 1},
+                                                                {SDL_SCANCODE_1, 2},
+                                                                {SDL_SCANCODE_2, 3},
+                                                                {SDL_SCANCODE_3, 4},
+                                                                {SDL_SCANCODE_4, 5},
+                                                                {SDL_SCANCODE_5, 6},
+                                                                {SDL_SCANCODE_6, 7},
+                                                                {SDL_SCANCODE_7, 8},
+                                                                {SDL_SCANCODE_8, 9},
+                                                                {SDL_SCANCODE_9, 10},
+                                                                {SDL_SCANCODE_0, 11},
+                                                                {SDL_SCANCODE_MINUS, 12},
+                                                                {SDL_SCANCODE_EQUALS, 13},
+                                                                {SDL_SCANCODE_BACKSPACE, 14},
+                                                                {SDL_SCANCODE_TAB, 15},
+                                                                {SDL_SCANCODE_Q, 16},
+                                                                {SDL_SCANCODE_W, 17},
+                                                                {SDL_SCANCODE_E, 18},
+                                                                {SDL_SCANCODE_R, 19},
+                                                                {SDL_SCANCODE_T, 20},
+                                                                {SDL_SCANCODE_Y, 21},
+                                                                {SDL_SCANCODE_U, 22},
+                                                                {SDL_SCANCODE_I, 23},
+                                                                {SDL_SCANCODE_O, 24},
+                                                                {SDL_SCANCODE_P, 25},
+                                                                {SDL_SCANCODE_LEFTBRACKET, 26},
+                                                                {SDL_SCANCODE_RIGHTBRACKET, 27},
+                                                                {SDL_SCANCODE_RETURN, 28},
+                                                                {SDL_SCANCODE_LCTRL, 29},
+                                                                {SDL_SCANCODE_A, 30},
+                                                                {SDL_SCANCODE_S, 31},
+                                                                {SDL_SCANCODE_D, 32},
+                                                                {SDL_SCANCODE_F, 33},
+                                                                {SDL_SCANCODE_G, 34},
+                                                                {SDL_SCANCODE_H, 35},
+                                                                {SDL_SCANCODE_J, 36},
+                                                                {SDL_SCANCODE_K, 37},
+                                                                {SDL_SCANCODE_L, 38},
+                                                                {SDL_SCANCODE_SEMICOLON, 39},
+                                                                {SDL_SCANCODE_APOSTROPHE, 40},
+                                                                {SDL_SCANCODE_GRAVE, 41},
+                                                                {SDL_SCANCODE_LSHIFT, 42},
+                                                                {SDL_SCANCODE_BACKSLASH, 43},
+                                                                {SDL_SCANCODE_Z, 44},
+                                                                {SDL_SCANCODE_X, 45},
+                                                                {SDL_SCANCODE_C, 46},
+                                                                {SDL_SCANCODE_V, 47},
+                                                                {SDL_SCANCODE_B, 48},
+                                                                {SDL_SCANCODE_N, 49},
+                                                                {SDL_SCANCODE_M, 50},
+                                                                {SDL_SCANCODE_COMMA, 51},
+                                                                {SDL_SCANCODE_PERIOD, 52},
+                                                                {SDL_SCANCODE_SLASH, 53},
+                                                                {SDL_SCANCODE_RSHIFT, 54},
+                                                                {SDL_SCANCODE_KP_MULTIPLY, 55},
+                                                                {SDL_SCANCODE_LALT, 56},
+                                                                {SDL_SCANCODE_SPACE, 57},
+                                                                {SDL_SCANCODE_CAPSLOCK, 58},
+                                                                {SDL_SCANCODE_F1, 59},
+                                                                {SDL_SCANCODE_F2, 60},
+                                                                {SDL_SCANCODE_F3, 61},
+                                                                {SDL_SCANCODE_F4, 62},
+                                                                {SDL_SCANCODE_F5, 63},
+                                                                {SDL_SCANCODE_F6, 64},
+                                                                {SDL_SCANCODE_F7, 65},
+                                                                {SDL_SCANCODE_F8, 66},
+                                                                {SDL_SCANCODE_F9, 67},
+                                                                {SDL_SCANCODE_F10, 68},
+                                                                {SDL_SCANCODE_KP_7, 71},
+                                                                {SDL_SCANCODE_KP_8, 72},
+                                                                {SDL_SCANCODE_KP_9, 73},
+                                                                {SDL_SCANCODE_KP_4, 75},
+                                                                {SDL_SCANCODE_KP_5, 76},
+                                                                {SDL_SCANCODE_KP_6, 77},
+                                                                {SDL_SCANCODE_KP_1, 79},
+                                                                {SDL_SCANCODE_KP_2, 80},
+                                                                {SDL_SCANCODE_KP_3, 81},
+                                                                {SDL_SCANCODE_KP_0, 82},
+                                                                {SDL_SCANCODE_F11, 87},
+                                                                {SDL_SCANCODE_F12, 88},
+                                                                {SDL_SCANCODE_KP_ENTER, 156},
+                                                                {SDL_SCANCODE_RCTRL, 157},
+                                                                {SDL_SCANCODE_RALT, 184},
+                                                                {SDL_SCANCODE_HOME, 199},
+                                                                {SDL_SCANCODE_UP, 200},
+                                                                {SDL_SCANCODE_PAGEUP, 201},
+                                                                {SDL_SCANCODE_LEFT, 203},
+                                                                {SDL_SCANCODE_RIGHT, 205},
+                                                                {SDL_SCANCODE_END, 207},
+                                                                {SDL_SCANCODE_DOWN, 208},
+                                                                {SDL_SCANCODE_PAGEDOWN, 209},
+                                                                {SDL_SCANCODE_INSERT, 210},
+                                                                {SDL_SCANCODE_DELETE, 211}};
 
 [[noreturn]] void fail(const std::string& trouble) {
   throw RuntimeError(ErrorNumber::serviceFailed, trouble + " (" + SDL_GetError() + ").");
@@ -136,6 +174,9 @@ void handleWindowEvent(const SDL_WindowEvent& event) {
     case SDL_WINDOWEVENT_MAXIMIZED:
       minimised = false;
       break;
+    case SDL_WINDOWEVENT_EXPOSED:
+      repaintScreen();
+      break;
     case SDL_WINDOWEVENT_CLOSE:
       handlers.closeAsked();
       break;
@@ -164,18 +205,6 @@ void handle(const SDL_Event& event) {
   }
 }
 
-void createTexture() {
-  if (texture != nullptr) SDL_DestroyTexture(texture);
-  texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
-                              pictureWidth, pictureHeight);
-  if (texture == nullptr) fail("The screen can't take the game's picture");
-  SDL_SetTextureScaleMode(texture, SDL_ScaleModeLinear);
-}
-
-bool upload(const u32* pixels) {
-  return SDL_UpdateTexture(texture, nullptr, pixels, pictureWidth * 4) == 0;
-}
-
 }  // namespace
 
 i32 openWindow(const std::string& caption, const WindowEvents& events) {
@@ -201,7 +230,7 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
 }
 
 void closeWindow(i32 handle) {
-  if (window == nullptr || SDL_GetWindowID(window) != static_cast<Uint32>(handle)) return;
+  if (gameWindow(handle) == nullptr) return;
   closeScreen();
   SDL_DestroyWindow(window);
   window = nullptr;
@@ -209,7 +238,7 @@ void closeWindow(i32 handle) {
 }
 
 void setWindowState(i32 handle, WindowState state) {
-  if (window == nullptr || SDL_GetWindowID(window) != static_cast<Uint32>(handle)) return;
+  if (gameWindow(handle) == nullptr) return;
   if (state == WindowState::normal) {
     SDL_RestoreWindow(window);
   } else {
@@ -230,40 +259,9 @@ void letWindowMessagesThrough() {
 
 void ShowCursor(i32 show) { SDL_ShowCursor(show != 0 ? SDL_ENABLE : SDL_DISABLE); }
 
-void openScreen(i32 handle, i32 width, i32 height) {
-  if (window == nullptr || SDL_GetWindowID(window) != static_cast<Uint32>(handle)) {
-    throw RuntimeError(ErrorNumber::serviceFailed, "There is no window to show the game in.");
-  }
-  closeScreen();
-  pictureWidth = width;
-  pictureHeight = height;
-  renderer = SDL_CreateRenderer(window, -1, 0);
-  if (renderer == nullptr) fail("The screen can't be drawn on");
-  SDL_RenderSetLogicalSize(renderer, width, height);
-  createTexture();
-}
-
-void closeScreen() {
-  if (texture != nullptr) SDL_DestroyTexture(texture);
-  if (renderer != nullptr) SDL_DestroyRenderer(renderer);
-  texture = nullptr;
-  renderer = nullptr;
-}
-
-void showPicture(const u32* pixels) {
-  if (renderer == nullptr) {
-    throw RuntimeError(ErrorNumber::serviceFailed, "The screen isn't there to show a picture.");
-  }
-  if (!upload(pixels)) {
-    createTexture();  // a display that was reset takes its textures with it
-    if (!upload(pixels)) fail("The screen can't take the game's picture");
-  }
-  while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
-  SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
-  SDL_RenderClear(renderer);
-  SDL_RenderCopy(renderer, texture, nullptr, nullptr);
-  SDL_RenderPresent(renderer);
-  lastShown = GetTickCount();
+SDL_Window* gameWindow(i32 handle) {
+  const bool same = window != nullptr && SDL_GetWindowID(window) == static_cast<Uint32>(handle);
+  return same ? window : nullptr;
 }
 
 bool screenLost() { return focusLost || minimised; }

@@ -7,7 +7,8 @@
 #include "game/types.h"
 
 // The controls of the menu's windows as plain data. The toolkit mirrors them on the screen; without
-// a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are Windows-1252.
+// a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are
+// Windows-1252.
 namespace glonks {
 
 inline constexpr i32 twipsPerPixel = 15;
@@ -65,8 +66,7 @@ struct HScrollBar : Control {
 };
 
 struct Frame;
-using ControlRef =
-    std::variant<Label*, TextBox*, Image*, ComboBox*, ListBox*, HScrollBar*, Frame*>;
+using ControlRef = std::variant<Label*, TextBox*, Image*, ComboBox*, ListBox*, HScrollBar*, Frame*>;
 
 // A page: its controls, from back to front.
 struct Frame : Control {
@@ -97,8 +97,8 @@ struct Form {
 void clearItems(Choices& list);  // drops the selection too
 void addItem(Choices& list, const std::string& text, i32 data = 0);
 
-// Selects an item, or none for -1, and runs `click` if that selects one. Raises badCall for an index
-// that isn't there.
+// Selects an item, or none for -1, and runs `click` if that selects one. Raises badCall for an
+// index that isn't there.
 void setListIndex(Choices& list, i32 index);
 
 // Selects the item with this text, as setListIndex does; a text that isn't there selects none.

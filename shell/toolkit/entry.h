@@ -8,7 +8,8 @@
 // here, the event loop in use ends, and whoever ran that loop raises it again.
 namespace glonks {
 
-// Runs `action` and then what setAfterHandler has set. While something raised is kept, does nothing.
+// Runs `action` and then what setAfterHandler has set. While something raised is kept, does
+// nothing.
 void enterFromQt(const std::function<void()>& action);
 void setAfterHandler(Handler handler);
 

@@ -32,7 +32,7 @@ QMenu::item:disabled { background: transparent; color: #6d7382; }
 
 QListView, QPlainTextEdit {
   background: rgba(16, 18, 24, 150);
-  border: 1px solid rgba(230, 232, 238, 26);
+  border: 1px solid rgba(230, 232, 238, 20);
   border-radius: 4px;
   padding: 1px;
   outline: none;
@@ -44,10 +44,12 @@ QListView::item:selected:focus {
   background: palette(highlight);
   color: palette(highlighted-text);
 }
+QListView::item:selected:disabled { background: rgba(240, 169, 59, 40); color: #8b90a0; }
 QListView:focus, QPlainTextEdit:focus { border-color: rgba(240, 169, 59, 170); }
 QListView:disabled, QPlainTextEdit:disabled { color: #6d7382; }
 
 QComboBox {
+  combobox-popup: 0;
   background: rgba(16, 18, 24, 150);
   border: 1px solid rgba(230, 232, 238, 40);
   border-radius: 4px;

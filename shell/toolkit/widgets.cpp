@@ -21,11 +21,13 @@ void PictureView::setFile(const QString& file) {
 void PictureView::fitTo(const QSize& size) {
   if (size == fittedTo_) return;
   fittedTo_ = size;
+  fitted_ = QPixmap();
+  if (file_.isEmpty()) return;
   QImageReader reader(file_);
   reader.setDecideFormatFromContent(true);
-  const QImage image = file_.isEmpty() ? QImage() : reader.read();
-  fitted_ = QPixmap::fromImage(
-      image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  const QImage image = reader.read();
+  if (image.isNull()) return;
+  fitted_.convertFromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
@@ -63,7 +65,8 @@ void DropDown::paintEvent(QPaintEvent* event) {
   QComboBox::paintEvent(event);
   const qreal pixel = scaleFactor();
   const QPointF tip(width() - 10 * pixel, height() / 2.0 + 1.75 * pixel);
-  const QPointF arrow[] = {tip + QPointF(-3.5, -3.5) * pixel, tip, tip + QPointF(3.5, -3.5) * pixel};
+  const QPointF arrow[] = {tip + QPointF(-3.5, -3.5) * pixel, tip,
+                           tip + QPointF(3.5, -3.5) * pixel};
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor colour = palette().color(isEnabled() ? QPalette::Highlight : QPalette::Mid);

@@ -24,8 +24,8 @@ class PictureView : public QWidget {
   void fitTo(const QSize& size);
 
   QString file_;
-  QPixmap fitted_;   // the picture in the size of the widget
-  QSize fittedTo_;   // the size in screen pixels that fitted_ was made for
+  QPixmap fitted_;  // the picture in the size of the widget
+  QSize fittedTo_;  // the size in screen pixels that fitted_ was made for
 };
 
 // A button that shows nothing but a frame while the focus or the mouse is on it.
@@ -47,8 +47,8 @@ class DropDown : public QComboBox {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A list with at most one row selected. `chosen` runs when the player has chosen a row, also the one
-// that was selected already; not when the program selects one.
+// A list with at most one row selected. `chosen` runs when the player has chosen a row, also the
+// one that was selected already; not when the program selects one.
 class ChoiceList : public QListWidget {
  public:
   explicit ChoiceList(QWidget* parent);

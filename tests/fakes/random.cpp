@@ -19,9 +19,8 @@ float drawFor(i32 result, i32 count) {
 
 void queueDraw(i32 result, i32 count) { draws.push_back(drawFor(result, count)); }
 
-void useGenerator(i32 seed) {
+void useGenerator() {
   generator = RandomGenerator();
-  generator.randomize(seed);
   generatorOn = true;
 }
 

@@ -16,8 +16,9 @@ inline i32 seedings = 0;  // calls of rtcRandomize
 float drawFor(i32 result, i32 count);
 void queueDraw(i32 result, i32 count);
 
-// From here draws come from a real generator with this seed, once the queue is empty.
-void useGenerator(i32 seed);
+// From here draws come from a real generator, as fresh as at the program's start, once the queue is
+// empty.
+void useGenerator();
 
 void resetRandom();
 

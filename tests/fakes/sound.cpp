@@ -1,6 +1,7 @@
 #include "tests/fakes/sound.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "game/errors.h"
 #include "present/services/audiodevice.h"

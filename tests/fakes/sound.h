@@ -14,9 +14,9 @@ namespace glonks::fake {
 inline std::vector<std::string> sounds;
 inline std::vector<std::string> samplesLoaded;  // in the order of loading
 
-inline std::vector<std::string> songsOpened;    // paths, also of songs that failed
-inline std::set<std::string> brokenSongs;       // paths that can't be opened
-inline bool songEnded = false;                  // the song that plays has come to its end
+inline std::vector<std::string> songsOpened;  // paths, also of songs that failed
+inline std::set<std::string> brokenSongs;     // paths that can't be opened
+inline bool songEnded = false;                // the song that plays has come to its end
 inline bool musicHalted = false;
 inline i32 songVolume = -1;
 inline std::string soundNotice;

@@ -10,7 +10,7 @@ WindowEvents handlers;
 
 namespace fake {
 
-void pressKeys(std::initializer_list<i32> scanCodes) {
+void pressKeys(const std::vector<i32>& scanCodes) {
   keys.fill(0);
   for (const i32 code : scanCodes) keys[static_cast<std::size_t>(code)] = 0x80;
   handlers.keyDown();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <initializer_list>
+#include <vector>
 
 #include "game/types.h"
 
@@ -15,7 +15,7 @@ inline bool windowOpen = false;
 inline i32 cursorShown = 1;  // the last argument of ShowCursor
 
 // The keys that are down, and a key event for them.
-void pressKeys(std::initializer_list<i32> scanCodes);
+void pressKeys(const std::vector<i32>& scanCodes);
 
 void resetWindow();
 

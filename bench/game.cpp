@@ -1,0 +1,133 @@
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <vector>
+
+#include "game/gametick.h"
+#include "game/model.h"
+#include "game/text.h"
+#include "present/services/screen.h"
+#include "shell/ftip.h"
+#include "shell/menucontrols.h"
+#include "shell/modes.h"
+#include "shell/playbutton.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/paths.h"
+
+// A real game on the screen at hand, with a busy board: bench_game <game folder> [seconds].
+// Tells the time from the click on Play to the first frame, the frame period, the time that showing
+// a picture takes, the share of one core and the peak memory.
+namespace {
+
+using namespace glonks;
+using Clock = std::chrono::steady_clock;
+
+constexpr i32 loadingPictures = 5;  // the test flip and the four loading lines
+constexpr double settling = 2;      // seconds before measuring begins
+
+struct Shown {
+  double begin, end;  // seconds since the click
+};
+
+Clock::time_point click;
+double playingSeconds = 60;
+std::vector<Shown> shown;
+double cpuAtStart = 0;
+double cpuAtEnd = 0;
+
+double now() { return std::chrono::duration<double>(Clock::now() - click).count(); }
+
+double cpuSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+         static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
+}
+
+// Six full rows; the seventh is kept free, so that the game goes on.
+void keepBusy() {
+  for (i16 row = 0; row < rowCount; ++row) {
+    for (i16 column = 0; column < columnCount; ++column) {
+      Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+      if (row == rowCount - 1) {
+        cell.occupied = False;
+      } else if (cell.occupied == False) {
+        static_cast<Piece&>(cell) =
+            pieceCatalog[static_cast<std::size_t>(2 + (row * 7 + column) % 17)];
+        cell.occupied = True;
+        cell.column = column;
+        cell.y = floorOf(row);
+        cell.expiry = std::numeric_limits<i32>::max();
+      }
+    }
+  }
+}
+
+void report(const std::string& what, std::vector<double> seconds) {
+  std::sort(seconds.begin(), seconds.end());
+  double sum = 0;
+  for (const double s : seconds) sum += s;
+  const auto at = [&](double part) {
+    return seconds[static_cast<std::size_t>(part * static_cast<double>(seconds.size() - 1))] * 1e3;
+  };
+  std::cout << what << ": mean " << sum / static_cast<double>(seconds.size()) * 1e3
+            << " ms, median " << at(0.5) << ", 99th percentile " << at(0.99) << ", longest "
+            << at(1) << " (" << seconds.size() << ")\n";
+}
+
+}  // namespace
+
+// The names that the linker's wrapping asks for.
+extern "C" void __real__ZN6glonks11showPictureEPKj(const u32* pixels);   // NOLINT
+extern "C" void __wrap__ZN6glonks11showPictureEPKj(const u32* pixels) {  // NOLINT
+  const double begin = now();
+  __real__ZN6glonks11showPictureEPKj(pixels);
+  shown.push_back({begin, now()});
+  if (static_cast<i32>(shown.size()) <= loadingPictures) return;
+  keepBusy();
+  if (now() < settling) cpuAtStart = cpuSeconds();
+  if (now() > playingSeconds + settling && gameOver == False) {
+    cpuAtEnd = cpuSeconds();
+    gameOver = True;
+  }
+}
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::cerr << "usage: bench_game <game folder> [seconds]\n";
+    return EXIT_FAILURE;
+  }
+  if (argc > 2) playingSeconds = leadingNumber(argv[2]);
+  try {
+    startToolkit(argc, argv);
+    setProgramFolder(std::filesystem::absolute(argv[1]));
+    fTip_Form_Load();
+    setText(tMode, "Freestyle");
+    click = Clock::now();
+    main_BtnRun_Click();
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return EXIT_FAILURE;
+  }
+
+  std::cout << "click to first frame: " << shown[loadingPictures].end * 1e3 << " ms\n";
+  std::vector<double> periods;
+  std::vector<double> costs;
+  for (std::size_t i = loadingPictures + 1; i < shown.size(); ++i) {
+    if (shown[i].begin < settling) continue;
+    periods.push_back(shown[i].end - shown[i - 1].end);
+    costs.push_back(shown[i].end - shown[i].begin);
+  }
+  report("frame period", periods);
+  report("showing a picture", costs);
+  std::cout << "share of one core: " << (cpuAtEnd - cpuAtStart) / playingSeconds * 100 << " %\n";
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  std::cout << "peak memory: " << static_cast<double>(usage.ru_maxrss) / 1024 << " MB\n";
+  return EXIT_SUCCESS;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <SDL.h>
+
+#include "game/types.h"
+
+namespace glonks {
+
+// Inside the services: SDL's window of a handle that openWindow gave; nullptr if it isn't open.
+SDL_Window* gameWindow(i32 handle);
+
+}  // namespace glonks

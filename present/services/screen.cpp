@@ -1,0 +1,224 @@
+#include "present/services/screen.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "game/clock.h"
+#include "game/errors.h"
+#include "present/services/gamewindow.h"
+#include "present/services/picturescaler.h"
+
+namespace glonks {
+namespace {
+
+constexpr u32 refreshPeriod = 16;  // ms
+
+SDL_Window* window = nullptr;
+i32 pictureWidth = 0;
+i32 pictureHeight = 0;
+u32 lastShown = 0;  // tick of the last picture
+
+[[noreturn]] void fail(const std::string& trouble) {
+  throw RuntimeError(ErrorNumber::serviceFailed, trouble + " (" + SDL_GetError() + ").");
+}
+
+// With a graphics processor: one texture, scaled by it.
+
+SDL_Renderer* renderer = nullptr;
+SDL_Texture* texture = nullptr;
+
+void createTexture() {
+  if (texture != nullptr) SDL_DestroyTexture(texture);
+  texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
+                              pictureWidth, pictureHeight);
+  if (texture == nullptr) fail("The screen can't take the game's picture");
+  SDL_SetTextureScaleMode(texture, SDL_ScaleModeLinear);
+}
+
+void openRenderer() {
+  renderer = SDL_CreateRenderer(window, -1, 0);
+  if (renderer == nullptr) fail("The screen can't be drawn on");
+  SDL_RenderSetLogicalSize(renderer, pictureWidth, pictureHeight);
+  createTexture();
+}
+
+bool upload(const u32* pixels) {
+  return SDL_UpdateTexture(texture, nullptr, pixels, pictureWidth * 4) == 0;
+}
+
+void showTexture(const u32* pixels) {
+  if (!upload(pixels)) {
+    createTexture();  // a display that was reset takes its textures with it
+    if (!upload(pixels)) fail("The screen can't take the game's picture");
+  }
+  SDL_RenderClear(renderer);
+  SDL_RenderCopy(renderer, texture, nullptr, nullptr);
+  SDL_RenderPresent(renderer);
+}
+
+// Without one: the window's own surface, of which only tiles that have changed are scaled and sent.
+
+constexpr i32 tileWidth = 64;
+constexpr i32 tileHeight = 32;
+
+SDL_Surface* target = nullptr;          // SDL's; it gives a new one when the window's size changes
+std::vector<u32> shownPixels;           // the picture that stands on the screen
+std::unique_ptr<PictureScaler> scaler;  // to `area`
+Rect area;                              // where the picture stands in the window
+bool paintWhole = true;
+
+// The largest rectangle of the picture's shape in the middle of the window.
+void fitPicture() {
+  const double scale = std::min(static_cast<double>(target->w) / pictureWidth,
+                                static_cast<double>(target->h) / pictureHeight);
+  const i32 width = std::max(1, static_cast<i32>(pictureWidth * scale));
+  const i32 height = std::max(1, static_cast<i32>(pictureHeight * scale));
+  area.left = (target->w - width) / 2;
+  area.top = (target->h - height) / 2;
+  area.right = area.left + width;
+  area.bottom = area.top + height;
+  scaler = std::make_unique<PictureScaler>(pictureWidth, pictureHeight, width, height);
+  SDL_FillRect(target, nullptr, 0);
+}
+
+// Whether a tile differs from what stands on the screen; what differs is noted as standing there.
+bool updateTile(const u32* pixels, const Rect& tile) {
+  const auto bytes = static_cast<std::size_t>(tile.right - tile.left) * sizeof(u32);
+  bool differs = paintWhole;
+  for (i32 y = tile.top; y < tile.bottom; ++y) {
+    const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(y) * pictureWidth + tile.left;
+    u32* standing = shownPixels.data() + at;
+    differs = differs || std::memcmp(standing, pixels + at, bytes) != 0;
+    if (differs) std::memcpy(standing, pixels + at, bytes);
+  }
+  return differs;
+}
+
+// The changed parts of the picture: runs of changed tiles, row by row.
+std::vector<Rect> changedParts(const u32* pixels) {
+  std::vector<Rect> parts;
+  for (i32 top = 0; top < pictureHeight; top += tileHeight) {
+    const i32 bottom = std::min(top + tileHeight, pictureHeight);
+    bool inRun = false;
+    for (i32 left = 0; left < pictureWidth; left += tileWidth) {
+      const Rect tile{left, top, std::min(left + tileWidth, pictureWidth), bottom};
+      const bool differs = updateTile(pixels, tile);
+      if (differs && inRun) {
+        parts.back().right = tile.right;
+      } else if (differs) {
+        parts.push_back(tile);
+      }
+      inRun = differs;
+    }
+  }
+  return parts;
+}
+
+void showChanges(const u32* pixels) {
+  SDL_Surface* current = SDL_GetWindowSurface(window);
+  if (current == nullptr) fail("The screen can't be drawn on");
+  if (current != target) {
+    target = current;
+    fitPicture();
+    paintWhole = true;
+  }
+  const bool whole = paintWhole;
+  const std::vector<Rect> parts = changedParts(pixels);
+  paintWhole = false;
+  if (parts.empty()) return;
+  const i32 pitch = target->pitch / static_cast<i32>(sizeof(u32));
+  u32* corner =
+      static_cast<u32*>(target->pixels) + static_cast<std::ptrdiff_t>(area.top) * pitch + area.left;
+  std::vector<SDL_Rect> sent;
+  for (const Rect& part : parts) {
+    const Rect scaled = scaler->influenced(part);
+    scaler->scale(pixels, corner, pitch, scaled);
+    sent.push_back({area.left + scaled.left, area.top + scaled.top, scaled.right - scaled.left,
+                    scaled.bottom - scaled.top});
+  }
+  if (whole) {
+    SDL_UpdateWindowSurface(window);
+  } else {
+    SDL_UpdateWindowSurfaceRects(window, sent.data(), static_cast<int>(sent.size()));
+  }
+}
+
+// Whether OpenGL here is drawn by a graphics processor. Asked once, of a window that isn't shown.
+bool hasGraphicsProcessor() {
+  static int known = -1;
+  if (known >= 0) return known != 0;
+  known = 0;
+  SDL_Window* probe = SDL_CreateWindow("", 0, 0, 16, 16, SDL_WINDOW_OPENGL | SDL_WINDOW_HIDDEN);
+  if (probe == nullptr) return false;
+  SDL_GLContext context = SDL_GL_CreateContext(probe);
+  if (context != nullptr) {
+    constexpr unsigned glRenderer = 0x1F01;
+    using GetString = const unsigned char* (*)(unsigned);
+    const auto getString = reinterpret_cast<GetString>(SDL_GL_GetProcAddress("glGetString"));
+    const auto* name =
+        getString == nullptr ? nullptr : reinterpret_cast<const char*>(getString(glRenderer));
+    const std::string drawnBy = name == nullptr ? "" : name;
+    known = 1;
+    for (const char* software : {"llvmpipe", "softpipe", "swrast", "Software"}) {
+      if (drawnBy.find(software) != std::string::npos) known = 0;
+    }
+    SDL_GL_DeleteContext(context);
+  }
+  SDL_DestroyWindow(probe);
+  return known != 0;
+}
+
+// Whether the window's own surface can be had, in the form that the scaler writes.
+bool openSurface() {
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  const SDL_Surface* surface = SDL_GetWindowSurface(window);
+  return surface != nullptr && (surface->format->format == SDL_PIXELFORMAT_RGB888 ||
+                                surface->format->format == SDL_PIXELFORMAT_ARGB8888);
+}
+
+}  // namespace
+
+void openScreen(i32 handle, i32 width, i32 height) {
+  closeScreen();
+  window = gameWindow(handle);
+  if (window == nullptr) {
+    throw RuntimeError(ErrorNumber::serviceFailed, "There is no window to show the game in.");
+  }
+  pictureWidth = width;
+  pictureHeight = height;
+  shownPixels.assign(static_cast<std::size_t>(width) * height, 0);
+  paintWhole = true;
+  if (hasGraphicsProcessor() || !openSurface()) openRenderer();
+}
+
+void closeScreen() {
+  if (texture != nullptr) SDL_DestroyTexture(texture);
+  if (renderer != nullptr) SDL_DestroyRenderer(renderer);
+  texture = nullptr;
+  renderer = nullptr;
+  target = nullptr;
+  window = nullptr;
+}
+
+void showPicture(const u32* pixels) {
+  if (window == nullptr) {
+    throw RuntimeError(ErrorNumber::serviceFailed, "The screen isn't there to show a picture.");
+  }
+  while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
+  SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
+  if (renderer != nullptr) {
+    showTexture(pixels);
+  } else {
+    showChanges(pixels);
+  }
+  lastShown = GetTickCount();
+}
+
+void repaintScreen() { paintWhole = true; }
+
+}  // namespace glonks

@@ -1,0 +1,92 @@
+#include "shell/toolkit/formwindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+
+#include "shell/toolkit/entry.h"
+#include "shell/toolkit/style.h"
+
+namespace glonks {
+
+FormWindow::FormWindow(Form& form) : form_(form), inside_(*new QWidget(this)) {
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                 Qt::WindowCloseButtonHint);
+  setCentralWidget(&inside_);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  makeMenus();
+  mirrors_ = makeMirrors(form.controls, inside_, stops_);
+  orderTabStops(stops_);
+}
+
+void FormWindow::makeMenus() {
+  if (form_.menus.empty()) return;
+  menuBar()->setNativeMenuBar(false);
+  for (const Menu& menu : form_.menus) {
+    QMenu* shown = menuBar()->addMenu(shownText(menu.caption));
+    for (const MenuEntry& entry : menu.entries) {
+      shown->addAction(shownText(entry.caption),
+                       [&entry] { enterFromQt([&entry] { run(entry.click); }); });
+    }
+  }
+}
+
+void FormWindow::level() {
+  const QString title = shownText(form_.caption);
+  if (windowTitle() != title) setWindowTitle(title);
+  const QSize size(pixels(form_.width), pixels(form_.height));
+  if (inside_.minimumSize() != size) inside_.setFixedSize(size);
+  const QWidget* inFocus = focusWidget();
+  for (const auto& mirror : mirrors_) mirror->level();
+  if (inFocus == nullptr || !inFocus->isVisible()) focusFirst();
+}
+
+// The widget that Qt would choose is another one: it takes the stops for a ring.
+void FormWindow::focusFirst() {
+  for (const TabStop& stop : stops_) {
+    if (stop.widget->isVisible() && stop.widget->isEnabled()) return stop.widget->setFocus();
+  }
+}
+
+void FormWindow::present() {
+  level();
+  if (!isVisible()) place();
+  if (isMinimized()) showNormal();
+  show();
+  if (focusWidget() == nullptr) focusFirst();
+  raise();
+  activateWindow();
+}
+
+void FormWindow::place() {
+  if (!placed_) {
+    const QRect room = screen()->availableGeometry();
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    adjustSize();
+    const QSize size = this->size() + QSize(0, titleBar);
+    place_ = room.center() - QRect(QPoint(), size).center();
+    placed_ = true;
+  }
+  move(place_);
+}
+
+void FormWindow::putAway() {
+  if (!isVisible()) return;
+  place_ = pos();
+  hide();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(form_.unload == nullptr);
+  if (event->isAccepted()) {
+    placed_ = false;
+  } else {
+    enterFromQt([this] { run(form_.unload); });
+  }
+}
+
+}  // namespace glonks

@@ -1,0 +1,282 @@
+#include "shell/toolkit/mirror.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <limits>
+
+#include "shell/toolkit/entry.h"
+#include "shell/toolkit/style.h"
+#include "shell/toolkit/widgets.h"
+#include "storage/paths.h"
+
+namespace glonks {
+namespace {
+
+constexpr int afterAllOthers = std::numeric_limits<int>::max();  // place of a tab stop
+
+// `View` is the widget's class. `shown` holds the data as the widget shows it.
+template <typename Data, typename View>
+class MirrorOf : public Mirror {
+ public:
+  MirrorOf(Data& data, QWidget& parent) : data_(data), view_(*new View(&parent)) {
+    view_.setGeometry(0, 0, 0, 0);
+    view_.setVisible(true);
+  }
+
+  void level() override {
+    levelPlace();
+    levelContents();
+    if (differs(&Control::enabled)) view_.setEnabled(data_.enabled != False);
+    if (differs(&Control::visible)) view_.setVisible(data_.visible != False);
+  }
+
+  View& view() { return view_; }
+
+ protected:
+  virtual void levelContents() = 0;
+
+  // Whether the field isn't shown as it is now; from then on it counts as shown.
+  template <typename Owner, typename Field>
+  bool differs(Field Owner::*field) {
+    if (shown_.*field == data_.*field) return false;
+    shown_.*field = data_.*field;
+    return true;
+  }
+
+  Data& data_;
+  View& view_;
+
+ private:
+  void levelPlace() {
+    const bool moved = differs(&Control::left) | differs(&Control::top);
+    const bool resized = differs(&Control::width) | differs(&Control::height);
+    if (!moved && !resized) return;
+    view_.setGeometry(pixels(data_.left), pixels(data_.top), pixels(data_.width),
+                      pixels(data_.height));
+  }
+
+  Data shown_;
+};
+
+class LabelMirror : public MirrorOf<Label, QLabel> {
+ public:
+  LabelMirror(Label& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.setTextFormat(Qt::PlainText);
+    view_.setWordWrap(true);
+    view_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  }
+
+ protected:
+  void levelContents() override {
+    if (differs(&Label::caption)) view_.setText(shownText(data_.caption));
+  }
+};
+
+class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
+ public:
+  TextBoxMirror(TextBox& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.setReadOnly(true);
+    view_.setTabChangesFocus(true);
+    view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
+
+ protected:
+  void levelContents() override {
+    if (differs(&TextBox::text)) view_.setPlainText(shownText(data_.text));
+  }
+};
+
+QString pictureFile(const std::string& path) {
+  const QString text = shownText(path);
+  if (text.isEmpty() || text.startsWith(":/")) return text;
+  return QFileInfo(nativePath(path)).filePath();
+}
+
+class ImageMirror : public MirrorOf<Image, PictureView> {
+ public:
+  ImageMirror(Image& data, QWidget& parent) : MirrorOf(data, parent), spot_(*new HotSpot(&view_)) {
+    spot_.hide();
+    view_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    QObject::connect(&spot_, &HotSpot::clicked,
+                     [this] { enterFromQt([this] { run(data_.click); }); });
+  }
+
+  HotSpot& spot() { return spot_; }
+
+ protected:
+  void levelContents() override {
+    if (differs(&Image::picture)) view_.setFile(pictureFile(data_.picture));
+    if (differs(&Image::hint)) {
+      spot_.setAccessibleName(shownText(data_.hint));
+      spot_.setToolTip(shownText(data_.hint));
+    }
+    if (differs(&Image::click)) {
+      view_.setAttribute(Qt::WA_TransparentForMouseEvents, data_.click == nullptr);
+      spot_.setVisible(data_.click != nullptr);
+    }
+    if (spot_.size() != view_.size()) spot_.resize(view_.size());
+  }
+
+ private:
+  HotSpot& spot_;
+};
+
+QStringList shownItems(const Choices& list) {
+  QStringList texts;
+  for (const std::string& item : list.items) texts.append(shownText(item));
+  return texts;
+}
+
+// The player's choice. The row may be gone from the data by now, and not yet from the widget.
+void choose(Choices& list, int row) {
+  enterFromQt([&list, row] {
+    if (row < static_cast<int>(list.items.size())) setListIndex(list, row);
+  });
+}
+
+class ComboBoxMirror : public MirrorOf<ComboBox, DropDown> {
+ public:
+  ComboBoxMirror(ComboBox& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.setMaxVisibleItems(12);
+    QObject::connect(&view_, &QComboBox::activated, [this](int row) { choose(data_, row); });
+  }
+
+ protected:
+  void levelContents() override {
+    if (differs(&Choices::items)) {
+      view_.clear();
+      view_.addItems(shownItems(data_));
+    }
+    if (view_.currentIndex() != data_.listIndex) view_.setCurrentIndex(data_.listIndex);
+  }
+};
+
+class ListBoxMirror : public MirrorOf<ListBox, ChoiceList> {
+ public:
+  ListBoxMirror(ListBox& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.chosen = [this](int row) { choose(data_, row); };
+  }
+
+ protected:
+  void levelContents() override {
+    if (differs(&Choices::items)) {
+      view_.clear();
+      view_.addItems(shownItems(data_));
+    }
+    if (view_.selectedRow() != data_.listIndex) view_.selectRow(data_.listIndex);
+  }
+};
+
+class ScrollBarMirror : public MirrorOf<HScrollBar, QScrollBar> {
+ public:
+  ScrollBarMirror(HScrollBar& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.setOrientation(Qt::Horizontal);
+    view_.setInvertedControls(false);  // Qt's default has the right arrow key go left
+    QObject::connect(&view_, &QScrollBar::sliderPressed, [this] { dragStart_ = data_.value; });
+    QObject::connect(&view_, &QScrollBar::valueChanged, [this](int value) { moved(value); });
+    QObject::connect(&view_, &QScrollBar::sliderReleased, [this] { dragged(); });
+  }
+
+ protected:
+  void levelContents() override {
+    const QSignalBlocker silence(view_);
+    view_.setSingleStep(data_.smallChange);
+    view_.setPageStep(data_.largeChange);
+    view_.setRange(data_.min, data_.max);
+    view_.setValue(data_.value);
+  }
+
+ private:
+  void moved(int value) {
+    enterFromQt([this, value] {
+      data_.value = static_cast<i16>(value);
+      run(view_.isSliderDown() ? data_.scroll : data_.change);
+    });
+  }
+
+  void dragged() {
+    enterFromQt([this] {
+      if (data_.value != dragStart_) run(data_.change);
+    });
+  }
+
+  i16 dragStart_ = 0;
+};
+
+class FrameMirror : public MirrorOf<Frame, QWidget> {
+ public:
+  FrameMirror(Frame& data, QWidget& parent, std::vector<TabStop>& stops)
+      : MirrorOf(data, parent), inside_(makeMirrors(data.controls, view_, stops)) {}
+
+ protected:
+  // The controls of a hidden page wait until it is shown.
+  void levelContents() override {
+    if (data_.visible == False) return;
+    for (const auto& mirror : inside_) mirror->level();
+  }
+
+ private:
+  Mirrors inside_;
+};
+
+// One routine for each kind of control, to make its mirror.
+class Maker {
+ public:
+  Maker(QWidget& parent, std::vector<TabStop>& stops) : parent_(parent), stops_(stops) {}
+
+  std::unique_ptr<Mirror> operator()(Label* data) const {
+    return std::make_unique<LabelMirror>(*data, parent_);
+  }
+  std::unique_ptr<Mirror> operator()(Frame* data) const {
+    return std::make_unique<FrameMirror>(*data, parent_, stops_);
+  }
+  std::unique_ptr<Mirror> operator()(Image* data) const {
+    auto mirror = std::make_unique<ImageMirror>(*data, parent_);
+    stops_.push_back({afterAllOthers, &mirror->spot()});
+    return mirror;
+  }
+  std::unique_ptr<Mirror> operator()(TextBox* data) const { return stop<TextBoxMirror>(*data); }
+  std::unique_ptr<Mirror> operator()(ComboBox* data) const { return stop<ComboBoxMirror>(*data); }
+  std::unique_ptr<Mirror> operator()(ListBox* data) const { return stop<ListBoxMirror>(*data); }
+  std::unique_ptr<Mirror> operator()(HScrollBar* data) const {
+    return stop<ScrollBarMirror>(*data);
+  }
+
+ private:
+  template <typename Kind, typename Data>
+  std::unique_ptr<Mirror> stop(Data& data) const {
+    auto mirror = std::make_unique<Kind>(data, parent_);
+    const bool takesFocus = data.tabIndex >= 0;
+    mirror->view().setFocusPolicy(takesFocus ? Qt::StrongFocus : Qt::NoFocus);
+    if (takesFocus) stops_.push_back({data.tabIndex, &mirror->view()});
+    return mirror;
+  }
+
+  QWidget& parent_;
+  std::vector<TabStop>& stops_;
+};
+
+}  // namespace
+
+Mirrors makeMirrors(const std::vector<ControlRef>& controls, QWidget& parent,
+                    std::vector<TabStop>& stops) {
+  Mirrors mirrors;
+  for (const ControlRef& control : controls) {
+    mirrors.push_back(std::visit(Maker(parent, stops), control));
+  }
+  return mirrors;
+}
+
+void orderTabStops(std::vector<TabStop>& stops) {
+  std::stable_sort(stops.begin(), stops.end(),
+                   [](const TabStop& a, const TabStop& b) { return a.place < b.place; });
+  for (std::size_t i = 1; i < stops.size(); ++i) {
+    QWidget::setTabOrder(stops[i - 1].widget, stops[i].widget);
+  }
+}
+
+}  // namespace glonks

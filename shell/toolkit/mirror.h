@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "shell/toolkit/controls.h"
+
+// Widgets that mirror controls: what the program changes in the data is shown, what the player does
+// goes into the data, and then the control's handler runs.
+namespace glonks {
+
+class Mirror {
+ public:
+  virtual ~Mirror() = default;
+
+  // Brings the widget level with the data, without running handlers. Costs little if it is already.
+  virtual void level() = 0;
+};
+using Mirrors = std::vector<std::unique_ptr<Mirror>>;
+
+// A widget that the Tab key may stop at, and its place in the order.
+struct TabStop {
+  int place = 0;
+  QWidget* widget = nullptr;
+};
+
+// Makes the widgets of the controls inside `parent`, and adds their stops to `stops`. The controls
+// have to live as long as the widgets.
+Mirrors makeMirrors(const std::vector<ControlRef>& controls, QWidget& parent,
+                    std::vector<TabStop>& stops);
+
+// Lets the Tab key go through the stops by place, and by order of creation where that is equal.
+// They are in that order afterwards.
+void orderTabStops(std::vector<TabStop>& stops);
+
+}  // namespace glonks

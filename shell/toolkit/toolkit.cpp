@@ -1,0 +1,127 @@
+#include "shell/toolkit/toolkit.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <clocale>
+#include <map>
+#include <memory>
+
+#include "present/services/window.h"
+#include "shell/toolkit/entry.h"
+#include "shell/toolkit/formwindow.h"
+#include "shell/toolkit/style.h"
+
+namespace glonks {
+namespace {
+
+constexpr char programName[] = "Glonks";
+constexpr int longestTurn = 10;  // milliseconds that waiting events may take in one go
+
+// Neither the application nor the windows are ever deleted: at the end of the program Qt's own
+// static objects could be gone before them.
+std::map<Form*, FormWindow*>& windows() {
+  static auto* all = new std::map<Form*, FormWindow*>;
+  return *all;
+}
+
+std::unique_ptr<QLockFile> folderLock;
+
+FormWindow& windowOf(Form& form) {
+  FormWindow*& window = windows()[&form];
+  if (window == nullptr) window = new FormWindow(form);
+  return *window;
+}
+
+void levelVisibleForms() {
+  for (const auto& [form, window] : windows()) {
+    if (window->isVisible()) window->level();
+  }
+}
+
+// The form that a dialog belongs to: the active one, or any that can be seen.
+FormWindow* formInFront() {
+  FormWindow* found = nullptr;
+  for (const auto& [form, window] : windows()) {
+    if (window->isVisible() && (found == nullptr || window->isActiveWindow())) found = window;
+  }
+  return found;
+}
+
+}  // namespace
+
+void startToolkit(int argc, char** argv) {
+  static int argumentCount = argc;
+  auto* application = new QApplication(argumentCount, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  QApplication::setApplicationName(programName);
+  QApplication::setQuitOnLastWindowClosed(false);
+  applyStyle(*application);
+  setAfterHandler(levelVisibleForms);
+}
+
+std::filesystem::path folderOfProgram() {
+  return QDir(QCoreApplication::applicationDirPath()).filesystemAbsolutePath();
+}
+
+FolderHold holdFolder(const std::filesystem::path& folder) {
+  auto lock = std::make_unique<QLockFile>(QFileInfo(folder / "glonks.lock").filePath());
+  lock->setStaleLockTime(0);
+  if (lock->tryLock(0)) {
+    folderLock = std::move(lock);
+    return FolderHold::held;
+  }
+  return lock->error() == QLockFile::LockFailedError ? FolderHold::otherRun
+                                                     : FolderHold::notWritable;
+}
+
+void showForm(Form& form) { windowOf(form).present(); }
+
+void hideForm(Form& form) {
+  const auto found = windows().find(&form);
+  if (found != windows().end()) found->second->putAway();
+}
+
+void runEvents() {
+  if (!isAnythingKept() && !takeEndRequest()) {
+    levelVisibleForms();
+    const LoopInUse loop([] { QCoreApplication::exit(); });
+    QApplication::exec();
+    takeEndRequest();
+  }
+  raiseKept();
+}
+
+void endProgram() { requestEnd(); }
+
+void letMessagesThrough() {
+  levelVisibleForms();
+  {
+    const LoopInUse loop([] {});
+    QCoreApplication::processEvents(QEventLoop::AllEvents, longestTurn);
+  }
+  letWindowMessagesThrough();
+  raiseKept();
+}
+
+void messageBox(const std::string& text) {
+  levelVisibleForms();
+  FormWindow* parent = formInFront();
+  QMessageBox box(parent);
+  box.setWindowTitle(programName);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(shownText(text));
+  box.addButton(QMessageBox::Ok)->setIcon(QIcon());
+  if (parent == nullptr) box.setWindowFlag(Qt::WindowStaysOnTopHint);
+  {
+    const LoopInUse loop([&box] { box.reject(); });
+    box.exec();
+  }
+  raiseKept();
+}
+
+}  // namespace glonks

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "game/errors.h"
+#include "storage/paths.h"
+
+namespace glonks {
+
+// A folder of its own for one test, made the program's folder and deleted at the end.
+class TempFolder : public ::testing::Test {
+ protected:
+  TempFolder() {
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    std::string name = std::string(info->test_suite_name()) + "." + info->name();
+    for (char& c : name) c = c == '/' ? '_' : c;
+    folder = std::filesystem::temp_directory_path() / ("glonks." + name);
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder / "init");
+    std::filesystem::create_directories(folder / "levels");
+    setProgramFolder(folder);
+  }
+  ~TempFolder() override { std::filesystem::remove_all(folder); }
+
+  // Bytes of a game path, as they are.
+  static std::string bytesOf(const std::string& path) {
+    std::ifstream file(nativePath(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  }
+  static void putBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream(nativePath(path), std::ios::binary) << bytes;
+  }
+  static bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
+
+  std::filesystem::path folder;
+};
+
+// What the RuntimeError says that `action` raises; "no error" if it raises none.
+template <typename Action>
+std::string errorOf(Action action) {
+  try {
+    action();
+  } catch (const RuntimeError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+// Whether a text holds another; for EXPECT_PRED2.
+inline bool holds(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+}  // namespace glonks
