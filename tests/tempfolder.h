@@ -12,20 +12,32 @@
 
 namespace glonks {
 
-// A folder of its own for one test, made the program's folder and deleted at the end.
+// A folder of its own for one test, made the program's folder and deleted at the end. It has all
+// that the game reads, by links; tests that write data files begin with ownDataFolders.
 class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
+    namespace fs = std::filesystem;
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string(info->test_suite_name()) + "." + info->name();
     for (char& c : name) c = c == '/' ? '_' : c;
-    folder = std::filesystem::temp_directory_path() / ("glonks." + name);
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder / "init");
-    std::filesystem::create_directories(folder / "levels");
+    folder = fs::temp_directory_path() / ("glonks." + name);
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    for (const char* part : {"images", "sounds", "music", "themes", "init", "levels"}) {
+      fs::create_directory_symlink(fs::path(GLONKS_GAME_FOLDER) / part, folder / part);
+    }
     setProgramFolder(folder);
   }
   ~TempFolder() override { std::filesystem::remove_all(folder); }
+
+  // Empty folders in the place of the game's data files.
+  void ownDataFolders() const {
+    for (const char* part : {"init", "levels"}) {
+      std::filesystem::remove(folder / part);
+      std::filesystem::create_directory(folder / part);
+    }
+  }
 
   // Bytes of a game path, as they are.
   static std::string bytesOf(const std::string& path) {

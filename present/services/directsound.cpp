@@ -97,15 +97,13 @@ void openAudioDevice() {
     Mix_CloseAudio();
     deviceOpen = false;
   }
-  if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-    // Mix_OpenAudio holds the subsystem by itself from here.
-    deviceOpen = Mix_OpenAudio(deviceRate, MIX_DEFAULT_FORMAT, deviceChannels, deviceBlock) == 0;
-    if (!deviceOpen) noteSound(std::string("no sound: ") + SDL_GetError());
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  // Brings up SDL's audio part too, which has to stay up as long as the device is open.
+  deviceOpen = Mix_OpenAudio(deviceRate, MIX_DEFAULT_FORMAT, deviceChannels, deviceBlock) == 0;
+  if (deviceOpen) {
+    Mix_AllocateChannels(channelsAtOnce);
   } else {
     noteSound(std::string("no sound: ") + SDL_GetError());
   }
-  if (deviceOpen) Mix_AllocateChannels(channelsAtOnce);
 }
 
 bool hasAudioDevice() { return deviceOpen; }

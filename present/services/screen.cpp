@@ -66,7 +66,9 @@ void showTexture(const u32* pixels) {
 constexpr i32 tileWidth = 64;
 constexpr i32 tileHeight = 32;
 
-SDL_Surface* target = nullptr;          // SDL's; it gives a new one when the window's size changes
+SDL_Surface* target = nullptr;          // SDL's own, new whenever the window's size has changed
+i32 targetWidth = 0;
+i32 targetHeight = 0;
 std::vector<u32> shownPixels;           // the picture that stands on the screen
 std::unique_ptr<PictureScaler> scaler;  // to `area`
 Rect area;                              // where the picture stands in the window
@@ -122,8 +124,11 @@ std::vector<Rect> changedParts(const u32* pixels) {
 void showChanges(const u32* pixels) {
   SDL_Surface* current = SDL_GetWindowSurface(window);
   if (current == nullptr) fail("The screen can't be drawn on");
-  if (current != target) {
+  // A new surface may lie at the address of the old one: its size has to be looked at too.
+  if (current != target || current->w != targetWidth || current->h != targetHeight) {
     target = current;
+    targetWidth = current->w;
+    targetHeight = current->h;
     fitPicture();
     paintWhole = true;
   }
@@ -219,6 +224,9 @@ void showPicture(const u32* pixels) {
   lastShown = GetTickCount();
 }
 
-void repaintScreen() { paintWhole = true; }
+void repaintScreen() {
+  target = nullptr;
+  paintWhole = true;
+}
 
 }  // namespace glonks

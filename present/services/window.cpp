@@ -175,6 +175,7 @@ void handleWindowEvent(const SDL_WindowEvent& event) {
       minimised = false;
       break;
     case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
       repaintScreen();
       break;
     case SDL_WINDOWEVENT_CLOSE:

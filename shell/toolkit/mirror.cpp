@@ -52,11 +52,9 @@ class MirrorOf : public Mirror {
 
  private:
   void levelPlace() {
-    const bool moved = differs(&Control::left) | differs(&Control::top);
-    const bool resized = differs(&Control::width) | differs(&Control::height);
-    if (!moved && !resized) return;
-    view_.setGeometry(pixels(data_.left), pixels(data_.top), pixels(data_.width),
+    const QRect place(pixels(data_.left), pixels(data_.top), pixels(data_.width),
                       pixels(data_.height));
+    if (view_.geometry() != place) view_.setGeometry(place);
   }
 
   Data shown_;

@@ -6,10 +6,10 @@
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
-#include <algorithm>
 #include <clocale>
 #include <map>
 #include <memory>
+#include <utility>
 
 #include "present/services/window.h"
 #include "shell/toolkit/entry.h"
@@ -47,7 +47,8 @@ void levelVisibleForms() {
 FormWindow* formInFront() {
   FormWindow* found = nullptr;
   for (const auto& [form, window] : windows()) {
-    if (window->isVisible() && (found == nullptr || window->isActiveWindow())) found = window;
+    if (!window->isVisible() || window->isMinimized()) continue;
+    if (found == nullptr || window->isActiveWindow()) found = window;
   }
   return found;
 }

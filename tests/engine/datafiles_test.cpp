@@ -87,7 +87,7 @@ TEST_F(GameDataTest, CatalogueHoldsEveryKindOfPiece) {
   const Piece& negative = pieceCatalog[negativeCalculatorSlot];
   EXPECT_NE(negative.surface, nullptr);
   EXPECT_EQ(negative.name, "");
-  EXPECT_FALSE(std::filesystem::exists(nativePath("\\temp")));
+  EXPECT_FALSE(exists("\\temp"));
 }
 
 TEST_F(GameDataTest, FreestyleLevelCoversEachDrawOnceWithEveryKindThatMayDrop) {
@@ -114,25 +114,15 @@ TEST_F(GameDataTest, FreestyleLevelCoversEachDrawOnceWithEveryKindThatMayDrop) {
 // Piece and level files made for the test, in a folder of its own.
 class DataFileTest : public GameDataTest {
  protected:
-  DataFileTest() {
-    folder_ = std::filesystem::temp_directory_path() / "glonks.datafiles";
-    std::filesystem::remove_all(folder_);
-    for (const char* sub : {"init", "levels"}) std::filesystem::create_directories(folder_ / sub);
-    std::filesystem::create_directory_symlink(programFolder() / "images", folder_ / "images");
-    setProgramFolder(folder_);
-  }
-  ~DataFileTest() override { std::filesystem::remove_all(folder_); }
+  DataFileTest() { ownDataFolders(); }
 
   static void write(const std::string& path, const std::string& plain) {
-    std::ofstream(nativePath("\\plain"), std::ios::binary) << plain;
+    putBytes("\\plain", plain);
     scrambleFile("\\plain", path);
   }
   static std::string pieceWith(const std::string& bombable, const std::string& value) {
     return "Rock,3,\"rock_01\"," + bombable + ",0,1,0,0,0,0,0,0,0,0,0,0," + value + ",900,800,0\n";
   }
-
- private:
-  std::filesystem::path folder_;
 };
 
 TEST_F(DataFileTest, PieceFieldsStandInTheOrderOfTheFile) {
@@ -198,7 +188,7 @@ TEST_F(DataFileTest, BadPieceFilesAreNamedWithTheirField) {
     const std::string error = errorOf([] { loadPiece("1281"); });
     EXPECT_PRED2(holds, error, named) << plain;
     EXPECT_TRUE(holds(error, "\\init\\1281") || holds(error, "\\images\\")) << error;
-    EXPECT_FALSE(std::filesystem::exists(nativePath("\\temp")));
+    EXPECT_FALSE(exists("\\temp"));
     EXPECT_FALSE(isChannelOpen(3));
   }
   EXPECT_PRED2(holds, errorOf([] { loadPiece("4742"); }), "\\init\\4742");
@@ -218,7 +208,7 @@ TEST_F(DataFileTest, RandomBytesNeverDoMoreThanRaiseAnError) {
                             : likely[static_cast<std::size_t>(bytes.next() * 14)];
     }
     for (const char* path : {"\\init\\1281", "\\levels\\7"}) {
-      std::ofstream(nativePath(path), std::ios::binary) << text;
+      putBytes(path, text);
     }
     EXPECT_NE(errorOf([] { loadPiece("1281"); }), "no error") << seed;
     EXPECT_NE(errorOf([] { loadLevel("\\levels\\7", True); }), "no error") << seed;
@@ -264,7 +254,7 @@ TEST_F(DataFileTest, ArcadeLevelFillsEveryField) {
     EXPECT_EQ(piece.spawnLow, rock ? 400 : 0) << piece.name;
     EXPECT_EQ(piece.spawnHigh, glonk ? 399 : rock ? 999 : 0) << piece.name;
   }
-  EXPECT_FALSE(std::filesystem::exists(nativePath("\\temp")));
+  EXPECT_FALSE(exists("\\temp"));
 }
 
 TEST_F(DataFileTest, GoalsAreSwitchedOnByWhatTheFileSays) {

@@ -11,24 +11,23 @@
 #include "present/console.h"
 #include "present/display.h"
 #include "present/keys.h"
-#include "storage/paths.h"
 #include "storage/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/random.h"
 #include "tests/fakes/sound.h"
 #include "tests/fakes/toolkit.h"
 #include "tests/fakes/window.h"
+#include "tests/tempfolder.h"
 
 namespace glonks {
 
 using Sounds = std::vector<std::string>;
 
-// A game that is set up on the real game folder, with an empty field, a silent list of sounds, a
+// A game that is set up, with an empty field, a silent list of sounds, a
 // clock at 1000 ms and no draws queued.
-class EngineTest : public ::testing::Test {
+class EngineTest : public TempFolder {
  protected:
   EngineTest() {
-    setProgramFolder(GLONKS_GAME_FOLDER);
     fake::resetClock();
     fake::resetRandom();
     fake::resetSound();

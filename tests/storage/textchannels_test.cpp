@@ -26,10 +26,6 @@ class TextChannels : public TempFolder {
     closeChannel(3);
     return texts;
   }
-  static bool deviceFull() {
-    std::error_code error;
-    return fs::exists("/dev/full", error);
-  }
 };
 
 TEST_F(TextChannels, LinesEndInThreeWays) {
@@ -38,9 +34,7 @@ TEST_F(TextChannels, LinesEndInThreeWays) {
     Texts lines;
   } table[] = {
       {"", {}},
-      {"\r\n", {""}},
       {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
-      {"a\r\n", {"a"}},
       {"a\r", {"a"}},
       {"a\r\r\nb\n\nc", {"a", "", "b", "", "c"}},
       {"a\n\rb", {"a", "", "b"}},
@@ -60,7 +54,6 @@ TEST_F(TextChannels, FieldsEndAtCommasAndLineEnds) {
       {"1,2\r\n3", {"1", "2", "3"}},
       {"\"a, b\",c\r\n", {"a, b", "c"}},
       {" \ta b \t, c \r\n", {"a b", "c"}},
-      {" \" a \" ,b", {" a ", "b"}},
       {",,\r\nx", {"", "", "", "x"}},
       {"\"\"\r\nx\n", {"", "x"}},
       {"\r\n\r\n", {"", ""}},
@@ -68,7 +61,6 @@ TEST_F(TextChannels, FieldsEndAtCommasAndLineEnds) {
       {"a\"b,c", {"a\"b", "c"}},
       {"\"open, to the end", {"open, to the end"}},
       {"\"two\r\nlines\",x", {"two\r\nlines", "x"}},
-      {"last", {"last"}},
   };
   for (const auto& row : table) {
     EXPECT_EQ(readAll(row.bytes, [] { return readField(3, "f"); }), row.fields) << row.bytes;
@@ -84,17 +76,15 @@ TEST_F(TextChannels, ErrorsNameFileAndField) {
   putBytes("\\file", "1");
   openChannel(3, "\\file", ChannelMode::input, "\\init\\6095");
   readLine(3);
-  for (const std::string& error : {errorOf([] { readField(3, "score"); }),
-                                   errorOf([] { readLine(3, "score"); })}) {
+  for (const std::string& error :
+       {errorOf([] { readField(3, "score"); }), errorOf([] { readLine(3, "score"); })}) {
     EXPECT_PRED2(holds, error, "\"\\init\\6095\"");
     EXPECT_PRED2(holds, error, "score");
   }
-  EXPECT_PRED2(holds, errorOf([] { readLine(3); }), "a line");
   EXPECT_PRED2(holds, errorOf([] { openChannel(4, "\\init\\0000", ChannelMode::input); }),
                "\"\\init\\0000\" can't be opened");
   EXPECT_PRED2(holds, errorOf([] { openChannel(4, "\\none\\x", ChannelMode::output); }),
                "\"\\none\\x\" can't be written");
-  EXPECT_PRED2(holds, errorOf([] { deleteFile("\\none"); }), "\"\\none\" can't be deleted");
   EXPECT_FALSE(isChannelOpen(4));
 }
 
@@ -108,19 +98,14 @@ TEST_F(TextChannels, MisuseIsRaised) {
     void (*action)();
   } table[] = {
       {"writing an input", [] { writeLine(3, "x"); }},
-      {"flushing an input", [] { flushChannel(3); }},
       {"reading an output", [] { readLine(4); }},
-      {"reading a field of an output", [] { readField(4, "f"); }},
-      {"end of an output", [] { endOfFile(4); }},
       {"reading a closed one", [] { readLine(5); }},
-      {"writing a closed one", [] { writeLine(5, "x"); }},
       {"open already", [] { openChannel(3, "\\in", ChannelMode::input); }},
       {"below the first", [] { openChannel(0, "\\in", ChannelMode::input); }},
       {"above the last", [] { openChannel(512, "\\in", ChannelMode::input); }},
   };
   for (const auto& row : table) EXPECT_PRED2(holds, errorOf(row.action), "Channel ") << row.name;
   EXPECT_EQ(readLine(3), "x") << "what was open reads on";
-  closeChannel(5);  // nothing to close
 }
 
 TEST_F(TextChannels, ReplacingKeepsTheOldFileUntilTheNewOneIsComplete) {
@@ -155,34 +140,23 @@ TEST_F(TextChannels, AFolderIsNoFile) {
 }
 
 TEST_F(TextChannels, AFullDiskIsRaised) {
-  if (!deviceFull()) GTEST_SKIP();
+  if (!fs::exists("/dev/full")) GTEST_SKIP();
   fs::create_symlink("/dev/full", folder / "full");
   openChannel(4, "\\full", ChannelMode::output);
   writeLine(4, "x");
   EXPECT_PRED2(holds, errorOf([] { flushChannel(4); }), "\"\\full\" can't be written");
-  abandonChannel(4);
-  openChannel(4, "\\full", ChannelMode::output);
-  writeLine(4, "x");
-  EXPECT_PRED2(holds, errorOf([] { closeChannel(4); }), "\"\\full\" can't be written");
-  EXPECT_FALSE(isChannelOpen(4));
 
-  putBytes("\\kept", "old");
-  fs::create_symlink("/dev/full", folder / "kept.new");
-  openChannel(4, "\\kept", ChannelMode::replace);
-  writeLine(4, "new");
-  EXPECT_PRED2(holds, errorOf([] { closeChannel(4); }), "\"\\kept\" can't be written");
-  EXPECT_EQ(bytesOf("\\kept"), "old");
-  EXPECT_FALSE(fs::is_symlink(folder / "kept.new"));
-}
-
-TEST_F(TextChannels, ALostLineIsRaisedAgainAtTheClose) {
-  if (!deviceFull()) GTEST_SKIP();
-  putBytes("\\kept", "old");
-  fs::create_symlink("/dev/full", folder / "kept.new");
-  openChannel(4, "\\kept", ChannelMode::replace);
-  EXPECT_PRED2(holds, errorOf([] { writeLine(4, std::string(100'000, 'x')); }), "can't be written");
-  EXPECT_PRED2(holds, errorOf([] { closeChannel(4); }), "\"\\kept\" can't be written");
-  EXPECT_FALSE(fs::is_symlink(folder / "kept")) << "an incomplete file has taken its place";
+  // At the close, whether the line fits the buffer and fails then, or has failed before.
+  for (const std::size_t length : {1U, 100'000U}) {
+    putBytes("\\kept", "old");
+    fs::create_symlink("/dev/full", folder / "kept.new");
+    openChannel(5, "\\kept", ChannelMode::replace);
+    errorOf([&] { writeLine(5, std::string(length, 'x')); });
+    EXPECT_PRED2(holds, errorOf([] { closeChannel(5); }), "\"\\kept\" can't be written");
+    EXPECT_FALSE(isChannelOpen(5));
+    EXPECT_FALSE(fs::is_symlink(folder / "kept")) << "an incomplete file has taken its place";
+    EXPECT_FALSE(fs::is_symlink(folder / "kept.new"));
+  }
 }
 
 TEST_F(TextChannels, NamesOfFilesAreWindows1252) {
@@ -200,23 +174,40 @@ TEST_F(TextChannels, FieldsAsNumbers) {
     std::string text;
     std::string result;
   } table[] = {
-      {small, "2.5", "2"},          {small, "3.5", "4"},
-      {small, "-2.5", "-2"},        {small, "-0.6", "-1"},
-      {small, "-3.5", "-4"},        {small, "12abc", "12"},
-      {small, "abc", "0"},          {small, "", "0"},
-      {small, "1e3", "1000"},       {small, "32767.4", "32767"},
-      {small, "-32768.5", "-32768"}, {small, "32767.5", range},
-      {small, "-32769", range},     {small, "1e400", range},
-      {small, "-1e400", range},     {large, "40000", "40000"},
-      {large, "2147483647", "2147483647"}, {large, "2147483648", range},
-      {large, "-2147483648.5", "-2147483648"}, {large, "-2147483649", range},
-      {flag, "0.5", "-1"},          {flag, "0", "0"},
-      {flag, "-1", "-1"},           {flag, "true", "0"},
-      {flag, "70000", "-1"},        {wholeSmall, "2.9", "2"},
-      {wholeSmall, "-2.5", "-3"},   {wholeSmall, "1e2", "100"},
-      {wholeSmall, "1x", none},     {wholeSmall, "", none},
-      {wholeSmall, "1 2", none},    {wholeSmall, "32768", range},
-      {wholeLarge, "70000", "70000"}, {wholeLarge, "one", none},
+      {small, "2.5", "2"},
+      {small, "3.5", "4"},
+      {small, "-2.5", "-2"},
+      {small, "-0.6", "-1"},
+      {small, "-3.5", "-4"},
+      {small, "12abc", "12"},
+      {small, "abc", "0"},
+      {small, "", "0"},
+      {small, "1e3", "1000"},
+      {small, "32767.4", "32767"},
+      {small, "-32768.5", "-32768"},
+      {small, "32767.5", range},
+      {small, "-32769", range},
+      {small, "1e400", range},
+      {small, "-1e400", range},
+      {large, "40000", "40000"},
+      {large, "2147483647", "2147483647"},
+      {large, "2147483648", range},
+      {large, "-2147483648.5", "-2147483648"},
+      {large, "-2147483649", range},
+      {flag, "0.5", "-1"},
+      {flag, "0", "0"},
+      {flag, "-1", "-1"},
+      {flag, "true", "0"},
+      {flag, "70000", "-1"},
+      {wholeSmall, "2.9", "2"},
+      {wholeSmall, "-2.5", "-3"},
+      {wholeSmall, "1e2", "100"},
+      {wholeSmall, "1x", none},
+      {wholeSmall, "", none},
+      {wholeSmall, "1 2", none},
+      {wholeSmall, "32768", range},
+      {wholeLarge, "70000", "70000"},
+      {wholeLarge, "one", none},
       {wholeLarge, "1e10", range},
   };
   for (const auto& row : table) {
@@ -225,11 +216,21 @@ TEST_F(TextChannels, FieldsAsNumbers) {
     std::string result;
     const std::string error = errorOf([&] {
       switch (row.reader) {
-        case small: result = std::to_string(readI16(3, "lives")); break;
-        case large: result = std::to_string(readI32(3, "lives")); break;
-        case flag: result = std::to_string(readFlag(3, "lives")); break;
-        case wholeSmall: result = std::to_string(readWholeI16(3, "lives")); break;
-        case wholeLarge: result = std::to_string(readWholeI32(3, "lives")); break;
+        case small:
+          result = std::to_string(readI16(3, "lives"));
+          break;
+        case large:
+          result = std::to_string(readI32(3, "lives"));
+          break;
+        case flag:
+          result = std::to_string(readFlag(3, "lives"));
+          break;
+        case wholeSmall:
+          result = std::to_string(readWholeI16(3, "lives"));
+          break;
+        case wholeLarge:
+          result = std::to_string(readWholeI32(3, "lives"));
+          break;
       }
     });
     closeChannel(3);
