@@ -16,6 +16,7 @@
 namespace glonks {
 namespace {
 
+constexpr i32 labelIndent = 60;  // twips; brings a label's text in line with that of lists
 constexpr int afterAllOthers = std::numeric_limits<int>::max();  // place of a tab stop
 
 // `View` is the widget's class. `shown` holds the data as the widget shows it.
@@ -66,6 +67,7 @@ class LabelMirror : public MirrorOf<Label, QLabel> {
     view_.setTextFormat(Qt::PlainText);
     view_.setWordWrap(true);
     view_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    view_.setIndent(pixels(labelIndent));
   }
 
  protected:

@@ -22,6 +22,7 @@ void resetWindow() {
   picturesShown = 0;
   windowOpen = false;
   cursorShown = 1;
+  windowMessages = nullptr;
 }
 
 }  // namespace fake
@@ -33,7 +34,9 @@ i32 openWindow(const std::string& /*caption*/, const WindowEvents& events) {
 }
 void closeWindow(i32 /*handle*/) { fake::windowOpen = false; }
 void setWindowState(i32 /*handle*/, WindowState /*state*/) {}
-void letWindowMessagesThrough() {}
+void letWindowMessagesThrough() {
+  if (fake::windowMessages) fake::windowMessages();
+}
 void ShowCursor(i32 show) { fake::cursorShown = show; }
 void openScreen(i32 /*handle*/, i32 /*width*/, i32 /*height*/) {}
 void closeScreen() {}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "game/types.h"
@@ -13,6 +14,9 @@ inline bool screenIsLost = false;
 inline i32 picturesShown = 0;
 inline bool windowOpen = false;
 inline i32 cursorShown = 1;  // the last argument of ShowCursor
+
+// Runs at each letWindowMessagesThrough.
+inline std::function<void()> windowMessages;
 
 // The keys that are down, and a key event for them.
 void pressKeys(const std::vector<i32>& scanCodes);

@@ -7,17 +7,11 @@
 namespace glonks {
 namespace {
 
-constexpr const char* badPath = "\\images\\bad.bmp";
+constexpr const char* badPath = "\\bad.bmp";
 constexpr std::size_t headerSize = 54;  // where the pixels begin
 
 class PictureFile : public TempFolder {
  protected:
-  PictureFile() {
-    std::filesystem::create_directory(folder / "images");
-    setProgramFolder(std::filesystem::path(GLONKS_SOURCE) / "assets");
-    apple = bytesOf("\\images\\apple.bmp");
-    setProgramFolder(folder);
-  }
   static Surface load(const std::string& path, SurfaceDesc& desc) {
     return DirectDraw7().CreateSurfaceFromFile(path, desc);
   }
@@ -34,11 +28,11 @@ class PictureFile : public TempFolder {
     for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(number >> (8 * i));
     return bytes;
   }
-  std::string apple;  // the bytes of a good picture, 90 by 90 with 24 bits a pixel
+  const std::string apple =
+      bytesOf("\\images\\apple.bmp");  // the bytes of a good picture, 90 by 90 with 24 bits a pixel
 };
 
 TEST_F(PictureFile, APictureComesPixelByPixel) {
-  putBytes("\\images\\apple.bmp", apple);
   SurfaceDesc desc;
   const Surface surface = load("\\images\\apple.bmp", desc);
   ASSERT_EQ(surface->width(), 90);

@@ -12,8 +12,6 @@
 namespace glonks {
 namespace {
 
-const std::filesystem::path assets = std::filesystem::path(GLONKS_SOURCE) / "assets";
-
 class Sound : public TempFolder {
  protected:
   // SDL's device that plays to nobody, or one that can't be opened.
@@ -38,9 +36,8 @@ class Sound : public TempFolder {
     return sound->CreateSoundBufferFromFile(path, {0xE2}, {1, 2, 22050, 16, 4, 88200});
   }
   static u32 song(const std::string& path) { return BASS_StreamCreateFile(0, path, 0, 0, 0); }
-  static std::string anySong() {
-    setProgramFolder(assets);
-    const auto first = *std::filesystem::directory_iterator(assets / "music");
+  std::string anySong() const {
+    const auto first = *std::filesystem::directory_iterator(folder / "music");
     return "\\music\\" + first.path().filename().string();
   }
   std::shared_ptr<DirectSound> sound;
@@ -48,12 +45,11 @@ class Sound : public TempFolder {
 };
 
 TEST_F(Sound, EverySampleOfTheGameLoads) {
-  setProgramFolder(assets);
   for (const char* driver : {"dummy", "none such"}) {
     useDriver(driver);
     open();
     samples.clear();
-    for (const auto& file : std::filesystem::directory_iterator(assets / "sounds")) {
+    for (const auto& file : std::filesystem::directory_iterator(folder / "sounds")) {
       const std::string path = "\\sounds\\" + file.path().filename().string();
       EXPECT_EQ(errorOf([&] { samples.push_back(load(path)); }), "no error");
       samples.back()->Play(0);
@@ -63,9 +59,7 @@ TEST_F(Sound, EverySampleOfTheGameLoads) {
 }
 
 TEST_F(Sound, BadFilesAreToldByName) {
-  setProgramFolder(assets);
   const std::string pop = bytesOf("\\sounds\\_pop01.wav");
-  setProgramFolder(folder);
   const std::string tables[] = {"",
                                 "R",
                                 pop.substr(0, 10),
@@ -98,7 +92,6 @@ TEST_F(Sound, BadFilesAreToldByName) {
 }
 
 TEST_F(Sound, NoSampleIsRefusedWhileManySound) {
-  setProgramFolder(assets);
   open();
   const Sample clapping = load("\\sounds\\_clapping01.wav");
   const Sample other = load("\\sounds\\_clapping02.wav");
@@ -114,7 +107,6 @@ TEST_F(Sound, NoSampleIsRefusedWhileManySound) {
 
 // A device that was shut behind the mixer's back takes all sounds and plays none of them.
 TEST_F(Sound, SamplesComeToTheirEnd) {
-  setProgramFolder(assets);
   for (int game = 0; game < 2; ++game) {
     open();
     const Sample pop = load("\\sounds\\_pop01.wav");
@@ -127,7 +119,6 @@ TEST_F(Sound, SamplesComeToTheirEnd) {
 
 TEST_F(Sound, WithoutADeviceTheGameIsSilentAndSaysSoOnce) {
   useDriver("none such");
-  setProgramFolder(assets);
   open();
   EXPECT_FALSE(hasAudioDevice());
   EXPECT_PRED2(holds, takeSoundNotice(), "no sound");

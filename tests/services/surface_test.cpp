@@ -284,19 +284,6 @@ TEST(Text, MovesWithItsPlaceAndIsCutOffAtTheEdges) {
   }
 }
 
-TEST(Text, HasItsColourAndNoBoxUnlessAskedFor) {
-  const Surface surface = page(100, 30, [](i32, i32) { return blue; });
-  surface->SetForeColor(0xFFFF00);
-  surface->DrawText(0, 0, "HHH", False);
-  std::set<u32> colors(surface->pixels(), surface->pixels() + 100 * 30);
-  EXPECT_EQ(colors.count(0xFFFF00), 1U);
-  EXPECT_EQ(colors.count(0), 0U);
-  EXPECT_EQ(surface->pixel(0, 0), blue);
-  surface->SetFontTransparency(False);
-  surface->DrawText(0, 0, "HH", False);
-  EXPECT_EQ(surface->pixel(0, 0), 0U);
-}
-
 TEST(Text, EmptyTextsAndControlCharacters) {
   const Surface surface = page();
   for (const std::string& text : {std::string(), std::string("\x01\r\n\t\0", 5)}) {

@@ -16,23 +16,19 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <clocale>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "present/services/window.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/paths.h"
+#include "tests/shell/later.h"
 
 // The controls of a form, driven through their real widgets by keys and mouse.
 
 namespace glonks {
-
-void letWindowMessagesThrough() {}  // no game window here
-
 namespace {
 
 std::vector<std::string> runs;  // what the handlers have told
@@ -136,9 +132,6 @@ class Toolkit : public testing::Test {
 
   QWidget* window = nullptr;
 };
-
-// Runs `action` inside the next event loop.
-void later(const std::function<void()>& action) { QTimer::singleShot(0, qApp, action); }
 
 TEST_F(Toolkit, showsWhatTheDataHoldAndFollowsTheirChanges) {
   EXPECT_EQ(find<QComboBox>()->currentIndex(), -1);
@@ -264,36 +257,6 @@ TEST_F(Toolkit, pagesTakeTurns) {
   EXPECT_EQ(QApplication::focusWidget(), backList);
 }
 
-TEST_F(Toolkit, picturesAreStretchedAndMissingOnesPaintNothing) {
-  QTemporaryDir folder;
-  QImage halves(2, 1, QImage::Format_RGB32);
-  halves.setPixelColor(0, 0, Qt::red);
-  halves.setPixelColor(1, 0, Qt::blue);
-  halves.save(folder.filePath("halves.png"));
-  setProgramFolder(folder.path().toStdString());
-  sheet->front.visible = False;
-  const QColor bare = window->grab().toImage().pixelColor(5, window->height() - 5);
-
-  sheet->background.picture = "\\halves.png";
-  letMessagesThrough();
-  const QImage shown = window->grab().toImage();
-  EXPECT_EQ(shown.pixelColor(5, shown.height() - 5), QColor(Qt::red));
-  EXPECT_EQ(shown.pixelColor(shown.width() - 5, shown.height() - 5), QColor(Qt::blue));
-
-  sheet->background.picture = "\\nowhere.png";
-  letMessagesThrough();
-  EXPECT_EQ(window->grab().toImage().pixelColor(5, window->height() - 5), bare);
-}
-
-TEST_F(Toolkit, menuEntriesRunTheirHandlers) {
-  auto* bar = static_cast<QMainWindow*>(window)->menuBar();
-  QMenu* menu = bar->actions().front()->menu();
-  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
-  QTest::mouseClick(menu, Qt::LeftButton, {},
-                    menu->actionGeometry(menu->actions().front()).center());
-  EXPECT_EQ(runs, std::vector<std::string>{"new"});
-}
-
 TEST_F(Toolkit, whatHandlersRaiseComesOutOfTheLoopTheyRanIn) {
   sheet->spot.click = [] { throw std::runtime_error("raised"); };
   later([this] { QTest::keyClick(spotButton(), Qt::Key_Space); });
@@ -357,16 +320,6 @@ TEST_F(Toolkit, messageBoxIsClosedByEnterAndEscape) {
   EXPECT_FALSE(textOfBoxClosedBy(Qt::Key_Escape).isEmpty());
 }
 
-TEST_F(Toolkit, messageBoxWorksAfterTheEndWasAskedFor) {
-  sheet->spot.click = [] {
-    endProgram();
-    runs.push_back(textOfBoxClosedBy(Qt::Key_Return).toStdString());
-  };
-  later([this] { QTest::keyClick(spotButton(), Qt::Key_Space); });
-  runEvents();
-  EXPECT_EQ(runs, std::vector<std::string>{"<b>caf\xc3\xa9"});
-}
-
 // What a run of its own, which ends without letting go, gets for the folder.
 FolderHold holdInOtherRun(const std::filesystem::path& folder) {
   const pid_t child = fork();
@@ -389,17 +342,5 @@ TEST(HoldFolder, oneRunAtATime) {
   EXPECT_EQ(holdFolder(folder / "nowhere"), FolderHold::notWritable);
 }
 
-TEST(Start, keepsNumbersFreeOfTheLocale) {
-  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
-  EXPECT_EQ(folderOfProgram(), std::filesystem::read_symlink("/proc/self/exe").parent_path());
-}
-
 }  // namespace
 }  // namespace glonks
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  testing::InitGoogleTest(&argc, argv);
-  glonks::startToolkit(argc, argv);
-  return RUN_ALL_TESTS();
-}

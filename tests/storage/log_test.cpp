@@ -40,16 +40,6 @@ TEST_F(Log, ARunToTheByte) {
   EXPECT_FALSE(isChannelOpen(logFileNo));
 }
 
-TEST_F(Log, SwitchedOffItDoesNothing) {
-  logEnabled = False;
-  openLog();
-  std::string text = "unchanged";
-  writeLog(text, True);
-  closeLog();
-  EXPECT_EQ(text, "unchanged");
-  EXPECT_FALSE(exists("\\log.txt"));
-}
-
 TEST_F(Log, TheProgramRunsOnWithoutALog) {
   for (const bool fullDisk : {false, true}) {
     if (fullDisk && !std::filesystem::exists("/dev/full")) break;

@@ -17,7 +17,10 @@ const std::string plainPath = "\\plain";
 
 class ScrambledFiles : public TempFolder {
  protected:
-  ScrambledFiles() { makeKeys(keySeed, keyDrawArgument, keyScale); }
+  ScrambledFiles() {
+    ownDataFolders();
+    makeKeys(keySeed, keyDrawArgument, keyScale);
+  }
   ~ScrambledFiles() override {
     for (const i16 channel : {i16{3}, i16{4}, i16{24}, i16{25}}) abandonChannel(channel);
   }

@@ -13,6 +13,7 @@ using Texts = std::vector<std::string>;
 
 class TextChannels : public TempFolder {
  protected:
+  TextChannels() { ownDataFolders(); }
   ~TextChannels() override {
     for (i16 channel = 1; channel <= 9; ++channel) abandonChannel(channel);
   }
@@ -93,18 +94,13 @@ TEST_F(TextChannels, MisuseIsRaised) {
   openChannel(3, "\\in", ChannelMode::input);
   openChannel(4, "\\out", ChannelMode::output);
   EXPECT_EQ(freeChannel(), 1);
-  const struct {
-    const char* name;
-    void (*action)();
-  } table[] = {
-      {"writing an input", [] { writeLine(3, "x"); }},
-      {"reading an output", [] { readLine(4); }},
-      {"reading a closed one", [] { readLine(5); }},
-      {"open already", [] { openChannel(3, "\\in", ChannelMode::input); }},
-      {"below the first", [] { openChannel(0, "\\in", ChannelMode::input); }},
-      {"above the last", [] { openChannel(512, "\\in", ChannelMode::input); }},
-  };
-  for (const auto& row : table) EXPECT_PRED2(holds, errorOf(row.action), "Channel ") << row.name;
+  EXPECT_PRED2(holds, errorOf([] { writeLine(3, "x"); }), "Channel 3");
+  EXPECT_PRED2(holds, errorOf([] { readField(4, "f"); }), "Channel 4");
+  EXPECT_PRED2(holds, errorOf([] { endOfFile(5); }), "Channel 5");
+  for (const i16 channel : {i16{3}, i16{0}, i16{512}}) {
+    EXPECT_PRED2(holds, errorOf([&] { openChannel(channel, "\\in", ChannelMode::input); }),
+                 "Channel");
+  }
   EXPECT_EQ(readLine(3), "x") << "what was open reads on";
 }
 
@@ -166,81 +162,54 @@ TEST_F(TextChannels, NamesOfFilesAreWindows1252) {
 }
 
 TEST_F(TextChannels, FieldsAsNumbers) {
-  enum Reader { small, large, flag, wholeSmall, wholeLarge };
   const std::string range = "is out of range";
   const std::string none = "isn't a number";
-  const struct {
-    Reader reader;
-    std::string text;
-    std::string result;
-  } table[] = {
-      {small, "2.5", "2"},
-      {small, "3.5", "4"},
-      {small, "-2.5", "-2"},
-      {small, "-0.6", "-1"},
-      {small, "-3.5", "-4"},
-      {small, "12abc", "12"},
-      {small, "abc", "0"},
-      {small, "", "0"},
-      {small, "1e3", "1000"},
-      {small, "32767.4", "32767"},
-      {small, "-32768.5", "-32768"},
-      {small, "32767.5", range},
-      {small, "-32769", range},
-      {small, "1e400", range},
-      {small, "-1e400", range},
-      {large, "40000", "40000"},
-      {large, "2147483647", "2147483647"},
-      {large, "2147483648", range},
-      {large, "-2147483648.5", "-2147483648"},
-      {large, "-2147483649", range},
-      {flag, "0.5", "-1"},
-      {flag, "0", "0"},
-      {flag, "-1", "-1"},
-      {flag, "true", "0"},
-      {flag, "70000", "-1"},
-      {wholeSmall, "2.9", "2"},
-      {wholeSmall, "-2.5", "-3"},
-      {wholeSmall, "1e2", "100"},
-      {wholeSmall, "1x", none},
-      {wholeSmall, "", none},
-      {wholeSmall, "1 2", none},
-      {wholeSmall, "32768", range},
-      {wholeLarge, "70000", "70000"},
-      {wholeLarge, "one", none},
-      {wholeLarge, "1e10", range},
+  using Reader = std::string (*)(const std::string&);
+  using Row = std::pair<std::string, std::string>;  // a field, and its value or the trouble with it
+  const std::pair<Reader, std::vector<Row>> table[] = {
+      {[](const std::string& name) { return std::to_string(readI16(3, name)); },
+       {{"2.5", "2"},
+        {"3.5", "4"},
+        {"-2.5", "-2"},
+        {"-0.6", "-1"},
+        {"12abc", "12"},
+        {"abc", "0"},
+        {"", "0"},
+        {"1e3", "1000"},
+        {"32767.4", "32767"},
+        {"-32768.5", "-32768"},
+        {"32767.5", range},
+        {"-32769", range},
+        {"1e400", range}}},
+      {[](const std::string& name) { return std::to_string(readI32(3, name)); },
+       {{"40000", "40000"},
+        {"2147483647", "2147483647"},
+        {"2147483648", range},
+        {"-2147483649", range}}},
+      {[](const std::string& name) { return std::to_string(readFlag(3, name)); },
+       {{"0.5", "-1"}, {"0", "0"}, {"-1", "-1"}, {"true", "0"}, {"70000", "-1"}}},
+      {[](const std::string& name) { return std::to_string(readWholeI16(3, name)); },
+       {{"2.9", "2"},
+        {"-2.5", "-3"},
+        {"1e2", "100"},
+        {"1x", none},
+        {"", none},
+        {"1 2", none},
+        {"32768", range}}},
+      {[](const std::string& name) { return std::to_string(readWholeI32(3, name)); },
+       {{"70000", "70000"}, {"one", none}, {"1e10", range}}},
   };
-  for (const auto& row : table) {
-    putBytes("\\file", row.text + "\r\n");
-    openChannel(3, "\\file", ChannelMode::input);
-    std::string result;
-    const std::string error = errorOf([&] {
-      switch (row.reader) {
-        case small:
-          result = std::to_string(readI16(3, "lives"));
-          break;
-        case large:
-          result = std::to_string(readI32(3, "lives"));
-          break;
-        case flag:
-          result = std::to_string(readFlag(3, "lives"));
-          break;
-        case wholeSmall:
-          result = std::to_string(readWholeI16(3, "lives"));
-          break;
-        case wholeLarge:
-          result = std::to_string(readWholeI32(3, "lives"));
-          break;
-      }
-    });
-    closeChannel(3);
-    const std::string where = '"' + row.text + "\", reader " + std::to_string(row.reader);
-    if (row.result == range || row.result == none) {
-      EXPECT_EQ(error, "The file \"\\file\" is damaged: its field lives " + row.result + ".")
-          << where;
-    } else {
-      EXPECT_EQ(error, "no error") << where;
-      EXPECT_EQ(result, row.result) << where;
+  for (const auto& [reader, rows] : table) {
+    for (const auto& [text, result] : rows) {
+      putBytes("\\file", text + "\r\n");
+      openChannel(3, "\\file", ChannelMode::input);
+      std::string value;
+      const std::string error = errorOf([&, &read = reader] { value = read("lives"); });
+      closeChannel(3);
+      const bool bad = result == range || result == none;
+      const std::string damage = "The file \"\\file\" is damaged: its field lives ";
+      EXPECT_EQ(error, bad ? damage + result + "." : "no error") << '"' << text << '"';
+      EXPECT_EQ(value, bad ? "" : result) << '"' << text << '"';
     }
   }
 }
