@@ -22,11 +22,10 @@ constexpr i32 songLineY = 723;
 std::set<i16> failedSongs;
 
 i16 drawSong(i32 count) {
-  i16 draw = songIndex;
-  do {
-    draw = static_cast<i16>(drawBelow(count));
-  } while (draw == songIndex && count > 1);
-  return draw;
+  while (true) {
+    const auto draw = static_cast<i16>(drawBelow(count));
+    if (draw != songIndex || count == 1) return draw;
+  }
 }
 
 void logFailedSong() {

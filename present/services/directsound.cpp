@@ -30,6 +30,7 @@ std::string soundNotice;
 // The bytes of a wave file that holds a sound.
 std::vector<unsigned char> waveBytes(const std::string& path) {
   std::vector<unsigned char> bytes = fileBytes(path);
+  SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "strict");  // a cut-off file is a damaged one
   SDL_AudioSpec spec;
   Uint8* samples = nullptr;
   Uint32 length = 0;

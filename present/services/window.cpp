@@ -143,9 +143,19 @@ void regainFocus() {
   for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) stale[i] = held[i] != 0;
 }
 
+// Between the whole screen and a window of the picture's own size, or what the desktop has room for.
 void switchFullScreen() {
-  const bool whole = (SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0;
-  SDL_SetWindowFullscreen(window, whole ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+  constexpr int ownWidth = 1024;
+  constexpr int ownHeight = 768;
+  if ((SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN_DESKTOP) == 0) {
+    SDL_SetWindowFullscreen(window, SDL_WINDOW_FULLSCREEN_DESKTOP);
+    return;
+  }
+  SDL_SetWindowFullscreen(window, 0);
+  SDL_Rect room{0, 0, ownWidth, ownHeight};
+  SDL_GetDisplayUsableBounds(SDL_GetWindowDisplayIndex(window), &room);
+  SDL_SetWindowSize(window, std::min(ownWidth, room.w), std::min(ownHeight, room.h));
+  SDL_SetWindowPosition(window, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
 }
 
 void handleKeyDown(const SDL_KeyboardEvent& event) {
@@ -216,9 +226,11 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) fail("The screen can't be used");
   SDL_DisableScreenSaver();
-  constexpr Uint32 flags = SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE;
-  window = SDL_CreateWindow(caption.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 1024,
-                            768, flags);
+  // Of the desktop's size from the start: without a window manager nobody else makes it so.
+  SDL_Rect desktop{0, 0, smallestWindow, smallestWindow};
+  SDL_GetDisplayBounds(0, &desktop);
+  window = SDL_CreateWindow(caption.c_str(), desktop.x, desktop.y, desktop.w, desktop.h,
+                            SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
   if (window == nullptr) fail("The game's window can't be opened");
   SDL_SetWindowMinimumSize(window, smallestWindow, smallestWindow);
   handlers = events;

@@ -91,7 +91,7 @@ class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
 };
 
 QString pictureFile(const std::string& path) {
-  const QString text = shownText(path);
+  QString text = shownText(path);
   if (text.isEmpty() || text.startsWith(":/")) return text;
   return QFileInfo(nativePath(path)).filePath();
 }

@@ -70,6 +70,8 @@ std::filesystem::path folderOfProgram() {
 }
 
 FolderHold holdFolder(const std::filesystem::path& folder) {
+  // Asked first: where nothing can be written, a dead run's lock would look like a living one's.
+  if (!QFileInfo(folder).isWritable()) return FolderHold::notWritable;
   auto lock = std::make_unique<QLockFile>(QFileInfo(folder / "glonks.lock").filePath());
   lock->setStaleLockTime(0);
   if (lock->tryLock(0)) {

@@ -5,12 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "game/gamereset.h"
 #include "game/gametick.h"
-#include "game/loadresources.h"
-#include "game/model.h"
+#include "game/pieces.h"
+#include "game/resources.h"
 #include "present/console.h"
 #include "present/display.h"
 #include "present/keys.h"
+#include "rules/falling.h"
+#include "shell/menucontrols.h"
 #include "storage/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/random.h"
@@ -21,24 +24,33 @@
 
 namespace glonks {
 
-using Sounds = std::vector<std::string>;
+using Names = std::vector<std::string>;
+using Numbers = std::vector<i32>;
 
-// A game that is set up, with an empty field, a silent list of sounds, a
-// clock at 1000 ms and no draws queued.
+// A Freestyle game that is set up, with an empty field, a silent list of sounds, no songs, a clock
+// at 1000 ms and no draws queued.
 class EngineTest : public TempFolder {
  protected:
   EngineTest() {
     fake::resetClock();
     fake::resetRandom();
-    fake::resetSound();
     fake::resetToolkit();
     fake::resetWindow();
-    resetModel();
-    gameOver = False;
     fConsole_Show(readKeys);
     initDX();
-    loadSamples();
+    clearItems(tMode);
+    clearItems(songs);
+    themeName = "Cells";
+    fake::queueDraw(0, 5);  // the plate
+    initVariables();
     fake::resetSound();
+    // What an earlier test may have left of the values that outlast a game.
+    playfield.fill(Row{});
+    itemStock.fill(0);
+    notesCollected = lastKeyTick = pendingSpawns = paused = gameOver = 0;
+    tickBase = 0;
+    songIndex = -1;
+    modeName = "Freestyle";
   }
   ~EngineTest() override {
     gameOver = True;
@@ -46,52 +58,24 @@ class EngineTest : public TempFolder {
     EXPECT_TRUE(fake::draws.empty()) << fake::draws.size() << " queued draws were not taken";
   }
 
-  // Everything that a test may have left behind, as at the program's start.
-  static void resetModel() {
-    for (Row& row : playfield) row = Row{};
-    pieceCatalog.fill(Piece{});
-    pieceCatalogUpper = -1;
-    fallingPieces.clear();
-    fallingPiecesUpper = -1;
-    itemStock.fill(0);
-    notesCollected = 0;
-    bank = 0;
-    score = 0;
-    selectedRow = 0;
-    modeName.clear();
-    pendingSpawns = 0;
-    pythagoreanDone = False;
-    pythagoreanSum = 0;
-    frogBonusOn = False;
-    paused = False;
-    lastKeyTick = 0;
-    tickBase = 0;
-    songIndex = -1;
-    songTitle.clear();
-    themeName = "Cells";
-    landOn = False;
-    landLeft = -1;
-    landName = noName;
-  }
-
-  // The key tables of the data files, for tests that read real or scrambled ones.
-  static void makeRealKeys() {
+  // The key tables of the data files, and the catalogue that is read with them.
+  static void loadRealPieces() {
     fake::useGenerator();
     makeKeys(keySeed, keyDrawArgument, keyScale);
     fake::resetRandom();
+    loadPieces();
   }
 
   static Cell& cellAt(i32 row, i32 column) {
     return playfield[static_cast<std::size_t>(row)][column];
   }
+  static Piece& entryAt(i16 slot) { return pieceCatalog[static_cast<std::size_t>(slot)]; }
 
   // A piece at rest.
-  static Cell& put(i16 row, i16 column, const std::string& name = "Glonk", i16 variety = 1) {
+  static Cell& put(i16 row, i16 column, const std::string& name = "Glonk") {
     Cell& cell = cellAt(row, column);
-    cell = Cell{};
     cell.occupied = True;
     cell.name = name;
-    cell.variety = variety;
     cell.column = column;
     cell.y = floorOf(row);
     return cell;
@@ -100,25 +84,51 @@ class EngineTest : public TempFolder {
     for (i16 row = 0; row < rows; ++row) put(row, column);
   }
 
-  // A piece in flight, as it is spawned.
-  static Piece& drop(i16 column, const std::string& name = "Glonk") {
+  // A piece in flight; as it is spawned, if no more is said.
+  static Piece& drop(i16 column, const std::string& name = "Glonk", i16 y = 0, i16 velocity = 1,
+                     i16 bounces = 0) {
     Piece& piece = grow(fallingPieces, fallingPiecesUpper);
     piece.name = name;
     piece.alive = True;
     piece.column = column;
-    piece.velocity = 1;
+    piece.y = y;
+    piece.velocity = velocity;
+    piece.bounces = bounces;
     return piece;
   }
 
-  // The field as text, top row first: "." for a free cell, else the first letter of the name.
+  // Physics until nothing falls any more, with contact sounds 1, 2, 3, 1 ... in turn. Gives the
+  // number of frames.
+  static i32 fallToRest() {
+    i32 frames = 0;
+    for (i32 contact = 0; fallingPiecesUpper >= 0 && frames < 1000; ++frames) {
+      for (; fake::draws.size() < 4; ++contact) fake::queueDraw(contact % 3, 3);
+      movePieces();
+      compactFalling();
+    }
+    fake::draws.clear();
+    return frames;
+  }
+
+  // Name, column, y, velocity and bounces.
+  static std::string stateOf(const Piece& piece) {
+    std::string text = piece.name;
+    for (const i32 number : {piece.column, piece.y, piece.velocity, piece.bounces}) {
+      text += " " + std::to_string(number);
+    }
+    return text;
+  }
+
+  // The rows from the highest that holds a piece, each as "A..B......": first letters of names.
   static std::string field() {
     std::string text;
     for (i32 row = rowCount - 1; row >= 0; --row) {
-      for (i32 column = 0; column < columnCount; ++column) {
-        const Cell& cell = cellAt(row, column);
-        text += cell.occupied == True ? cell.name.substr(0, 1) : ".";
+      std::string line;
+      for (const Cell& cell : playfield[static_cast<std::size_t>(row)].cells) {
+        line += cell.occupied == True ? cell.name[0] : '.';
       }
-      text += row > 0 ? "/" : "";
+      if (text.empty() && line.find_first_not_of('.') == std::string::npos) continue;
+      text += (text.empty() ? "" : "/") + line;
     }
     return text;
   }

@@ -1,7 +1,5 @@
 #include "rules/generation.h"
 
-#include "game/catalogue.h"
-#include "game/errors.h"
 #include "rules/timer.h"
 #include "tests/engine/enginetest.h"
 
@@ -12,8 +10,8 @@ class GenerationTest : public EngineTest {
  protected:
   GenerationTest() { pieceCatalogUpper = 18; }
 
-  static Piece& entry(i16 slot, const std::string& name, i16 low, i16 high) {
-    Piece& piece = pieceCatalog[static_cast<std::size_t>(slot)];
+  static Piece& entry(i16 slot, const std::string& name, i16 low = 0, i16 high = 999) {
+    Piece& piece = entryAt(slot);
     piece.name = name;
     piece.imageIndex = slot;
     piece.spawnLow = low;
@@ -21,10 +19,12 @@ class GenerationTest : public EngineTest {
     return piece;
   }
 
-  // Spawns with the given draw of the kind and column 6 behind it; further draws are queued before.
-  static const Piece& spawn(i32 draw) {
-    fake::draws.push_front(fake::drawFor(6, columnCount));
-    fake::draws.push_front(fake::drawFor(draw, 1000));
+  // Spawns with the given draw of the kind and column 6 behind it; `more` are results and counts of
+  // the draws that follow.
+  static const Piece& spawn(i32 draw, const std::vector<std::pair<i32, i32>>& more = {}) {
+    fake::queueDraw(draw, 1000);
+    fake::queueDraw(6, columnCount);
+    for (const auto& [result, count] : more) fake::queueDraw(result, count);
     spawnPiece();
     return fallingPieces.back();
   }
@@ -35,124 +35,74 @@ TEST_F(GenerationTest, DrawPicksTheHighestSlotWhoseRangeHoldsIt) {
   entry(3, "Three", 400, 499);
   entry(4, "Never", 700, 600);
   entry(5, "Rest", 500, 999);
-  entry(0, "Unnamed", 0, 0);
   entry(18, "Zero", 0, 0);
-  struct Case {
-    i32 draw;
-    const char* name;
-  };
-  for (const auto& [draw, name] : {Case{1, "Two"},
-                                   {399, "Two"},
-                                   {400, "Three"},
-                                   {499, "Three"},
-                                   {500, "Rest"},
-                                   {650, "Rest"},
-                                   {999, "Rest"},
-                                   {0, "Zero"}}) {
+  const std::pair<i32, std::string> cases[] = {{0, "Zero"},    {1, "Two"},    {399, "Two"},
+                                               {400, "Three"}, {500, "Rest"}, {650, "Rest"},
+                                               {999, "Rest"}};
+  for (const auto& [draw, name] : cases) {
     const Piece& piece = spawn(draw);
-    EXPECT_EQ(piece.name, name) << draw;
+    EXPECT_EQ(stateOf(piece), name + " 6 0 1 0") << draw;
     EXPECT_EQ(piece.alive, True);
-    EXPECT_EQ(piece.column, 6);
-    EXPECT_EQ(piece.y, 0);
-    EXPECT_EQ(piece.velocity, 1);
-    EXPECT_EQ(piece.bounces, 0);
     EXPECT_EQ(piece.expiry, 0);
   }
-  EXPECT_EQ(fallingPiecesUpper, 7);
-  EXPECT_EQ(fake::seedings, 8);  // each spawn seeds anew
+  EXPECT_EQ(fake::seedings, 7);  // each spawn seeds anew
 }
 
 TEST_F(GenerationTest, TimedKindsAreArmedAfterTheColumn) {
-  const std::pair<const char*, Flag Piece::*> kinds[] = {{"Bomb", &Piece::isBomb},
-                                                         {"Bauble", &Piece::isBauble},
-                                                         {"Gorgon", &Piece::isGorgon},
-                                                         {"Shifter", &Piece::isShifter},
-                                                         {"Calculator", &Piece::isCalculator}};
-  for (const auto& [name, flag] : kinds) {
-    Piece& kind = entry(1, name, 0, 999);
-    kind.timerMin = 7000;
-    kind.timerMax = 9000;
+  Piece& kind = entry(1, "Kind");
+  kind.timerMin = 7000;
+  kind.timerMax = 9000;
+  for (const auto flag : {&Piece::isBomb, &Piece::isBauble, &Piece::isGorgon}) {
     kind.*flag = True;
-    fake::queueDraw(1500, 2000);
-    if (flag == &Piece::isShifter) fake::queueDraw(1, 2);
-    if (flag == &Piece::isCalculator) fake::queueDraw(150, 200);
-    EXPECT_EQ(spawn(5).expiry, 1000 + 7000 + 1500) << name;
+    EXPECT_EQ(spawn(5, {{1500, 2000}}).expiry, 1000 + 7000 + 1500);
     kind.*flag = False;
   }
-  entry(1, "Diamond", 0, 999).isDiamond = True;
-  EXPECT_EQ(spawn(5).expiry, 0);
-}
-
-TEST_F(GenerationTest, TimerMayBeOfOneLengthOnlyAndNeverLeavesItsWidth) {
-  Piece piece;
-  piece.timerMin = piece.timerMax = 12000;
-  fake::draws.push_back(0.99F);
-  armTimer(piece);
-  EXPECT_EQ(piece.expiry, 13000);
-  piece.timerMin = piece.timerMax = 2147483647;
-  fake::draws.push_back(0.99F);
-  armTimer(piece);
-  EXPECT_EQ(piece.expiry, 2147483647);
-}
-
-TEST_F(GenerationTest, ShifterDrawsItsDirection) {
-  Piece& kind = entry(1, "Shifter", 0, 999);
   kind.isShifter = True;
   for (const i32 draw : {0, 1}) {
-    fake::queueDraw(0, 1);
-    fake::queueDraw(draw, 2);
-    EXPECT_EQ(spawn(5).direction, draw == 0 ? -1 : 1);
+    const Piece& shifter = spawn(5, {{1500, 2000}, {draw, 2}});
+    EXPECT_EQ(shifter.expiry, 9500);
+    EXPECT_EQ(shifter.direction, draw == 0 ? -1 : 1);
   }
+  Piece endless;
+  endless.timerMin = endless.timerMax = 2147483647;
+  fake::queueDraw(1, 2);
+  armTimer(endless);
+  EXPECT_EQ(endless.expiry, 2147483647);
 }
 
-TEST_F(GenerationTest, CalculatorDrawsItsValue) {
-  Piece& kind = entry(6, "Calculator", 0, 999);
-  kind.isCalculator = True;
-  kind.variety = 0;
-  struct Case {
-    i32 draw;
-    Flag done;
-    i32 value;
-    i16 image, variety;
+TEST_F(GenerationTest, CalculatorDrawsItsValueBehindItsTimer) {
+  entry(6, "Calculator").isCalculator = True;
+  const auto calculator = [](i32 draw) {
+    const Piece& piece = spawn(5, {{0, 1}, {draw, 200}});
+    return Numbers{piece.value, piece.imageIndex, piece.variety};
   };
-  for (const auto& [draw, done, value, image, variety] : {Case{0, False, -100, 19, -1},
-                                                          {99, False, -1, 19, -1},
-                                                          {100, False, 1, 6, 0},
-                                                          {199, False, 99, 6, 0},
-                                                          {0, True, 1, 6, 0},
-                                                          {199, True, 199, 6, 0}}) {
-    pythagoreanDone = done;
-    fake::queueDraw(0, 1);
-    fake::queueDraw(draw, 200);
-    const Piece& piece = spawn(5);
-    EXPECT_EQ(piece.value, value) << draw << done;
-    EXPECT_EQ(piece.imageIndex, image) << draw << done;
-    EXPECT_EQ(piece.variety, variety) << draw << done;
-  }
+  EXPECT_EQ(calculator(0), (Numbers{-100, 19, -1}));
+  EXPECT_EQ(calculator(99), (Numbers{-1, 19, -1}));
+  EXPECT_EQ(calculator(100), (Numbers{1, 6, 0}));
+  EXPECT_EQ(calculator(199), (Numbers{99, 6, 0}));
+  pythagoreanDone = True;
+  EXPECT_EQ(calculator(0), (Numbers{1, 6, 0}));
+  EXPECT_EQ(calculator(199), (Numbers{199, 6, 0}));
 }
 
 TEST_F(GenerationTest, BallDrawnForAFullColumnHitsItsTopAtOnce) {
-  entry(9, "Bowling Ball", 0, 999).isBowlingBall = True;
+  entry(9, "Bowling Ball").isBowlingBall = True;
   fillColumn(6, 6);
   spawn(5);
   EXPECT_TRUE(fake::sounds.empty());
   fillColumn(6, 7);
   spawn(5);
-  EXPECT_EQ(fake::sounds, Sounds{"_bowling01"});
+  EXPECT_EQ(fake::sounds, Names{"_bowling01"});
 }
 
 TEST_F(GenerationTest, MusicNoteIgnoresTheRanges) {
-  EXPECT_THROW(slotNamed("Music"), RuntimeError);
+  EXPECT_PRED2(holds, errorOf(spawnMusicNote), "\"Music\"");
   entry(11, "Music", 700, 600);
-  entry(12, "Music", 0, 999).variety = 1;
+  entry(12, "Music").variety = 1;
   fake::queueDraw(4, 10);
   spawnMusicNote();
-  const Piece& note = fallingPieces.back();
-  EXPECT_EQ(note.imageIndex, 11);
-  EXPECT_EQ(note.column, 4);
-  EXPECT_EQ(note.alive, True);
-  EXPECT_EQ(note.velocity, 1);
-  EXPECT_EQ(fake::seedings, 0);
+  EXPECT_EQ(stateOf(fallingPieces.back()), "Music 4 0 1 0");
+  EXPECT_EQ(fallingPieces.back().imageIndex, 11);
 }
 
 }  // namespace
