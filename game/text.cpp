@@ -63,8 +63,8 @@ char codeOf(char32_t unicode) {
   return '?';
 }
 
-// Takes one character off the front of `utf8`. A byte that starts no whole, shortest form counts
-// as a character of its own that no set has.
+// Takes one character off the front of `utf8`. What is no whole, shortest form counts as a
+// character that no set has.
 char32_t takeCharacter(std::string_view& utf8) {
   constexpr char32_t none = 0xFFFD;
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };

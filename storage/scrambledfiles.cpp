@@ -46,13 +46,15 @@ template <typename Change>
 void changeFile(const std::string& source, const std::string& target, ChannelMode targetMode,
                 Change change) {
   resetKeys();
+  // Errors name the file that the player knows.
+  const std::string& shown = source == tempPath ? target : source;
   openChannel(sourceChannel, source, ChannelMode::input);
   const ChannelGuard sourceGuard(sourceChannel);
   openChannel(targetChannel, target, targetMode);
   const ChannelGuard targetGuard(targetChannel);
   for (i32 number = 1; !endOfFile(sourceChannel); ++number) {
     const std::string line = readLine(sourceChannel);
-    place = "The file \"" + source + "\" is damaged: line " + plainNumber(number);
+    place = "The file \"" + shown + "\" is damaged: line " + plainNumber(number);
     if (line.size() > static_cast<std::size_t>(longestLine)) {
       failLine("is longer than 32,767 characters.");
     }

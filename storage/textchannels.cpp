@@ -75,11 +75,11 @@ void finishLineEnd(Channel& channel, int byte) {
 bool isLineEnd(int byte) { return byte == '\n' || byte == '\r'; }
 bool isBlank(int byte) { return byte == ' ' || byte == '\t'; }
 
-void flushToDisk(std::FILE* file) {
+bool flushToDisk(std::FILE* file) {
 #ifdef _WIN32
-  _commit(_fileno(file));
+  return _commit(_fileno(file)) == 0;
 #else
-  fsync(fileno(file));
+  return fsync(fileno(file)) == 0;
 #endif
 }
 
@@ -112,7 +112,8 @@ void openChannel(i16 channel, const std::string& path, ChannelMode mode,
     place = opening.beside;
   }
   const bool reads = mode == ChannelMode::input;
-  const bool folder = fs::is_directory(place);  // opening one for input succeeds on some systems
+  std::error_code ignored;  // what hinders the look hinders the opening too
+  const bool folder = fs::is_directory(place, ignored);  // some systems open one for input
   opening.file = folder ? nullptr : std::fopen(place.string().c_str(), reads ? "rb" : "wb");
   if (opening.file == nullptr) {
     const std::string reason = folder ? " (it is a folder)." : because(errno);
@@ -189,10 +190,16 @@ void closeChannel(i16 channel) {
   const Channel closing = found->second;
   channels.erase(found);
 
-  bool complete = closing.mode == ChannelMode::input || std::fflush(closing.file) == 0;
-  if (closing.mode == ChannelMode::replace && complete) flushToDisk(closing.file);
-  complete = std::fclose(closing.file) == 0 && complete;
+  // A write that failed long ago still counts, also if the disk has room again.
+  errno = EIO;
+  bool complete = closing.mode == ChannelMode::input ||
+                  (std::ferror(closing.file) == 0 && std::fflush(closing.file) == 0);
+  if (closing.mode == ChannelMode::replace) complete = complete && flushToDisk(closing.file);
   std::error_code error(complete ? 0 : errno, std::generic_category());
+  if (std::fclose(closing.file) != 0 && complete) {
+    complete = false;
+    error.assign(errno, std::generic_category());
+  }
   if (closing.mode == ChannelMode::replace && complete) {
     fs::rename(closing.beside, closing.target, error);
     if (!error) flushFolder(closing.target.parent_path());

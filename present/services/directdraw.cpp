@@ -20,9 +20,9 @@ constexpr i32 largestPicture = 4096;  // pixels of width or height
                      "The picture \"" + path + "\" can't be used (" + reason + ").");
 }
 
-i32 littleEndian(const std::vector<unsigned char>& bytes, std::size_t at) {
+i32 littleEndian(const std::vector<unsigned char>& bytes, std::size_t at, std::size_t length) {
   u32 value = 0;
-  for (std::size_t i = 4; i-- > 0;) value = value << 8U | bytes[at + i];
+  for (std::size_t i = length; i-- > 0;) value = value << 8U | bytes[at + i];
   return static_cast<i32>(value);
 }
 
@@ -33,9 +33,10 @@ void checkHeader(const std::string& path, const std::vector<unsigned char>& byte
   if (bytes.size() < header || bytes[0] != 'B' || bytes[1] != 'M') {
     failPicture(path, "it is no bitmap");
   }
-  if (littleEndian(bytes, 14) == 12) return;  // the oldest form, with sizes of 16 bits
-  const i32 width = littleEndian(bytes, 18);
-  const i32 height = littleEndian(bytes, 22);
+  const bool oldest = littleEndian(bytes, 14, 4) == 12;  // the form with sizes of 16 bits
+  const std::size_t length = oldest ? 2 : 4;
+  const i32 width = littleEndian(bytes, 18, length);
+  const i32 height = littleEndian(bytes, 18 + length, length);
   if (width < 1 || width > largestPicture || height == 0 || height < -largestPicture ||
       height > largestPicture) {
     failPicture(path, "its size is out of range");

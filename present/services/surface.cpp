@@ -208,9 +208,13 @@ i32 DirectDrawSurface7::BltColorFill(const Rect& to, i32 color) {
 void DirectDrawSurface7::SetFont(const GameFont& font) {
   loadFont(font.name, font.size);
   font_ = font;
+  standing_.clear();
 }
 
-void DirectDrawSurface7::SetForeColor(i32 color) { foreColor_ = color; }
+void DirectDrawSurface7::SetForeColor(i32 color) {
+  foreColor_ = color;
+  standing_.clear();
+}
 
 void DirectDrawSurface7::SetFontTransparency(Flag transparent) { transparent_ = transparent; }
 

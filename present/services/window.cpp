@@ -225,6 +225,7 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
   SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) fail("The screen can't be used");
+  SDL_FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);  // those of a window before are nobody's now
   SDL_DisableScreenSaver();
   // Of the desktop's size from the start: without a window manager nobody else makes it so.
   SDL_Rect desktop{0, 0, smallestWindow, smallestWindow};

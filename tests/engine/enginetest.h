@@ -2,11 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "game/gamereset.h"
-#include "game/gametick.h"
 #include "game/pieces.h"
 #include "game/resources.h"
 #include "present/console.h"
@@ -46,8 +42,7 @@ class EngineTest : public TempFolder {
     fake::resetSound();
     // What an earlier test may have left of the values that outlast a game.
     playfield.fill(Row{});
-    itemStock.fill(0);
-    notesCollected = lastKeyTick = pendingSpawns = paused = gameOver = 0;
+    notesCollected = lastKeyTick = gameOver = 0;
     tickBase = 0;
     songIndex = -1;
     modeName = "Freestyle";
@@ -123,12 +118,11 @@ class EngineTest : public TempFolder {
   static std::string field() {
     std::string text;
     for (i32 row = rowCount - 1; row >= 0; --row) {
-      std::string line;
-      for (const Cell& cell : playfield[static_cast<std::size_t>(row)].cells) {
-        line += cell.occupied == True ? cell.name[0] : '.';
+      text += "/";
+      for (i32 column = 0; column < columnCount; ++column) {
+        text += cellAt(row, column).occupied == True ? cellAt(row, column).name[0] : '.';
       }
-      if (text.empty() && line.find_first_not_of('.') == std::string::npos) continue;
-      text += (text.empty() ? "" : "/") + line;
+      if (text == "/..........") text.clear();
     }
     return text;
   }

@@ -3,7 +3,6 @@
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class FallingTest : public EngineTest {};
 
@@ -28,7 +27,7 @@ TEST_F(FallingTest, PieceGainsOnePixelAFrameAndBouncesBackAtThreeQuarters) {
 TEST_F(FallingTest, FreshPieceStopsAtItsFifthContact) {
   drop(3, "Rock");
   EXPECT_EQ(fallToRest(), 163);
-  EXPECT_EQ(field(), "...R......");
+  EXPECT_EQ(field(), "/...R......");
   EXPECT_EQ(stateOf(cellAt(0, 3)), "Rock 3 520 -8 5");
   EXPECT_EQ(fake::sounds,
             (Names{"_connect01", "_connect02", "_connect03", "_connect01", "_connect02"}));
@@ -46,7 +45,7 @@ TEST_F(FallingTest, LaterPieceOfAColumnIsLiftedToTheNewFloorAndFliesOn) {
   fake::queueDraw(1, 3);  // the second's: the floor has risen above it, in the same frame
   movePieces();
   compactFalling();
-  EXPECT_EQ(field(), ".....F....");
+  EXPECT_EQ(field(), "/.....F....");
   ASSERT_EQ(fallingPiecesUpper, 1);
   EXPECT_EQ(stateOf(fallingPieces[0]),
             "Second 5 435 2 1");  // up before: the reversal sends it down
@@ -65,7 +64,7 @@ TEST_F(FallingTest, FullColumnEndsTheGameForEachPieceThatComesToRestInIt) {
 TEST_F(FallingTest, PieceFallsThroughAFullColumnAndLandsInACellThatIsFreedInTime) {
   fillColumn(9, 7);
   drop(9, "Late");
-  for (i32 frame = 0; frame < 30; ++frame) movePieces();
+  for (i32 passed = 0; passed < 30; ++passed) movePieces();
   EXPECT_EQ(stateOf(fallingPieces[0]), "Late 9 495 31 0");
   cellAt(3, 9).occupied = False;  // below others
   fallToRest();
@@ -95,5 +94,4 @@ TEST_F(FallingTest, BowlingBallNeverComesToRest) {
   EXPECT_TRUE(fake::sounds.empty());
 }
 
-}  // namespace
 }  // namespace glonks

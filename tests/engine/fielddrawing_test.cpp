@@ -3,7 +3,6 @@
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class FieldDrawingTest : public EngineTest {
  protected:
@@ -63,5 +62,4 @@ TEST_F(FieldDrawingTest, BackgroundIsBlackThenPlateThenFrameStretchedToTheScreen
   EXPECT_EQ(colorsAt({{300, 300}, {4, 763}, {600, 300}}), (Numbers{6, 6, 5}));
 }
 
-}  // namespace
 }  // namespace glonks

@@ -3,7 +3,6 @@
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class GameResetTest : public EngineTest {
  protected:
@@ -107,5 +106,4 @@ TEST_F(GameResetTest, PicturesStandInTheirPlaces) {
   EXPECT_PRED2(holds, errorOf([] { reset(2); }), "\\themes\\Nowhere\\plate_02.bmp");
 }
 
-}  // namespace
 }  // namespace glonks

@@ -1,10 +1,8 @@
 #include "rules/generation.h"
 
-#include "rules/timer.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class GenerationTest : public EngineTest {
  protected:
@@ -19,12 +17,11 @@ class GenerationTest : public EngineTest {
     return piece;
   }
 
-  // Spawns with the given draw of the kind and column 6 behind it; `more` are results and counts of
-  // the draws that follow.
-  static const Piece& spawn(i32 draw, const std::vector<std::pair<i32, i32>>& more = {}) {
+  // Spawns with a draw of the kind, column 6 and further draws.
+  static const Piece& spawn(i32 draw, const std::vector<float>& more = {}) {
     fake::queueDraw(draw, 1000);
     fake::queueDraw(6, columnCount);
-    for (const auto& [result, count] : more) fake::queueDraw(result, count);
+    fake::draws.insert(fake::draws.end(), more.begin(), more.end());
     spawnPiece();
     return fallingPieces.back();
   }
@@ -43,7 +40,6 @@ TEST_F(GenerationTest, DrawPicksTheHighestSlotWhoseRangeHoldsIt) {
     const Piece& piece = spawn(draw);
     EXPECT_EQ(stateOf(piece), name + " 6 0 1 0") << draw;
     EXPECT_EQ(piece.alive, True);
-    EXPECT_EQ(piece.expiry, 0);
   }
   EXPECT_EQ(fake::seedings, 7);  // each spawn seeds anew
 }
@@ -54,26 +50,19 @@ TEST_F(GenerationTest, TimedKindsAreArmedAfterTheColumn) {
   kind.timerMax = 9000;
   for (const auto flag : {&Piece::isBomb, &Piece::isBauble, &Piece::isGorgon}) {
     kind.*flag = True;
-    EXPECT_EQ(spawn(5, {{1500, 2000}}).expiry, 1000 + 7000 + 1500);
+    EXPECT_EQ(spawn(5, {0.75F}).expiry, 1000 + 7000 + 1500);
     kind.*flag = False;
   }
   kind.isShifter = True;
-  for (const i32 draw : {0, 1}) {
-    const Piece& shifter = spawn(5, {{1500, 2000}, {draw, 2}});
-    EXPECT_EQ(shifter.expiry, 9500);
-    EXPECT_EQ(shifter.direction, draw == 0 ? -1 : 1);
-  }
-  Piece endless;
-  endless.timerMin = endless.timerMax = 2147483647;
-  fake::queueDraw(1, 2);
-  armTimer(endless);
-  EXPECT_EQ(endless.expiry, 2147483647);
+  EXPECT_EQ(spawn(5, {0.75F, 0.4F}).direction, -1);
+  EXPECT_EQ(spawn(5, {0.75F, 0.6F}).direction, 1);
+  EXPECT_EQ(fallingPieces.back().expiry, 9500);
 }
 
 TEST_F(GenerationTest, CalculatorDrawsItsValueBehindItsTimer) {
   entry(6, "Calculator").isCalculator = True;
   const auto calculator = [](i32 draw) {
-    const Piece& piece = spawn(5, {{0, 1}, {draw, 200}});
+    const Piece& piece = spawn(5, {0, fake::drawFor(draw, 200)});
     return Numbers{piece.value, piece.imageIndex, piece.variety};
   };
   EXPECT_EQ(calculator(0), (Numbers{-100, 19, -1}));
@@ -105,5 +94,4 @@ TEST_F(GenerationTest, MusicNoteIgnoresTheRanges) {
   EXPECT_EQ(fallingPieces.back().imageIndex, 11);
 }
 
-}  // namespace
 }  // namespace glonks

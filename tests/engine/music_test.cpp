@@ -4,7 +4,6 @@
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class MusicTest : public EngineTest {
  protected:
@@ -38,10 +37,6 @@ TEST_F(MusicTest, SongLineStartsTheNextSongAndGivesUpThoseThatCantBePlayed) {
   drawSongs({0, 1}, 2);
   for (i32 pass = 0; pass < 5; ++pass) showSongLine();  // the second goes on
   EXPECT_EQ(fake::songsOpened, (Names{"\\music\\A - a", "\\music\\B - b"}));
-  bool drawn = false;
-  for (i32 x = 80; x < 120; ++x) drawn = drawn || backBuffer->pixel(x, 733) != 0;
-  EXPECT_TRUE(drawn);
-
   fake::brokenSongs.insert("\\music\\B - b");
   fake::songEnded = true;
   drawSongs({0, 1}, 2);
@@ -53,5 +48,4 @@ TEST_F(MusicTest, SongLineStartsTheNextSongAndGivesUpThoseThatCantBePlayed) {
   EXPECT_EQ(fake::songsOpened.size(), 5U);
 }
 
-}  // namespace
 }  // namespace glonks

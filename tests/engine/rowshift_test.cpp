@@ -3,7 +3,6 @@
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
-namespace {
 
 class RowShiftTest : public EngineTest {};
 
@@ -15,7 +14,7 @@ TEST_F(RowShiftTest, SelectedRowAloneMovesByOneColumnAndWrapsAround) {
   cellAt(0, 6).name = "ghost";  // what a free cell still holds is wiped out
   drop(4);
   shiftRow(False);
-  EXPECT_EQ(field(), "JA...E....");
+  EXPECT_EQ(field(), "/JA...E....");
   EXPECT_EQ(cellAt(0, 1).column, 1);
   EXPECT_EQ(cellAt(0, 1).expiry, 777);
   EXPECT_EQ(cellAt(0, 0).column, 0);
@@ -24,11 +23,11 @@ TEST_F(RowShiftTest, SelectedRowAloneMovesByOneColumnAndWrapsAround) {
   EXPECT_EQ(stateOf(fallingPieces[1]), "Glonk 4 435 0 4");  // hung over a free cell
   shiftRow(True);
   shiftRow(True);
-  EXPECT_EQ(field(), "...E....JA");
+  EXPECT_EQ(field(), "/...E....JA");
   EXPECT_EQ(cellAt(0, 9).column, 9);
   selectedRow = 5;
   shiftRow(True);
-  EXPECT_EQ(field(), "...E....JA");
+  EXPECT_EQ(field(), "/...E....JA");
   EXPECT_EQ(fake::sounds, Names(4, "_changerow"));  // for an empty row too
 }
 
@@ -40,15 +39,14 @@ TEST_F(RowShiftTest, StackAboveAGapIsLiftedLowestFirstAndPiecesKeepWhatTheyAre) 
   cellAt(1, 6).tallied = True;
   selectedRow = 1;
   shiftRow(False);
-  EXPECT_EQ(field(), "......A...");
+  EXPECT_EQ(field(), "/......A...");
   ASSERT_EQ(fallingPiecesUpper, 2);
   EXPECT_EQ(stateOf(fallingPieces[0]), "B 7 435 -8 4");
   EXPECT_EQ(stateOf(fallingPieces[1]), "C 6 350 0 4");
   EXPECT_EQ(stateOf(fallingPieces[2]), "D 6 265 0 4");
   EXPECT_EQ(fallingPieces[0].tallied, True);
   fallToRest();
-  EXPECT_EQ(field(), "......D.../......C.../......AB..");
+  EXPECT_EQ(field(), "/......D.../......C.../......AB..");
 }
 
-}  // namespace
 }  // namespace glonks
