@@ -138,6 +138,7 @@ void loseFocus() {
 
 void regainFocus() {
   focusLost = false;
+  minimised = false;
   int count = 0;
   const Uint8* held = SDL_GetKeyboardState(&count);
   for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) stale[i] = held[i] != 0;

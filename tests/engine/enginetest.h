@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "game/gamereset.h"
+#include "game/gametick.h"
 #include "game/pieces.h"
 #include "game/resources.h"
 #include "present/console.h"
@@ -34,7 +35,6 @@ class EngineTest : public TempFolder {
     fake::resetWindow();
     fConsole_Show(readKeys);
     initDX();
-    clearItems(tMode);
     clearItems(songs);
     themeName = "Cells";
     fake::queueDraw(0, 5);  // the plate
@@ -50,7 +50,7 @@ class EngineTest : public TempFolder {
   ~EngineTest() override {
     gameOver = True;
     destroy();
-    EXPECT_TRUE(fake::draws.empty()) << fake::draws.size() << " queued draws were not taken";
+    EXPECT_TRUE(fake::draws.empty()) << "draws were not taken";
   }
 
   // The key tables of the data files, and the catalogue that is read with them.
@@ -75,10 +75,6 @@ class EngineTest : public TempFolder {
     cell.y = floorOf(row);
     return cell;
   }
-  static void fillColumn(i16 column, i16 rows) {
-    for (i16 row = 0; row < rows; ++row) put(row, column);
-  }
-
   // A piece in flight; as it is spawned, if no more is said.
   static Piece& drop(i16 column, const std::string& name = "Glonk", i16 y = 0, i16 velocity = 1,
                      i16 bounces = 0) {
@@ -107,11 +103,8 @@ class EngineTest : public TempFolder {
 
   // Name, column, y, velocity and bounces.
   static std::string stateOf(const Piece& piece) {
-    std::string text = piece.name;
-    for (const i32 number : {piece.column, piece.y, piece.velocity, piece.bounces}) {
-      text += " " + std::to_string(number);
-    }
-    return text;
+    return piece.name + " " + std::to_string(piece.column) + " " + std::to_string(piece.y) + " " +
+           std::to_string(piece.velocity) + " " + std::to_string(piece.bounces);
   }
 
   // The rows from the highest that holds a piece, each as "A..B......": first letters of names.
@@ -126,8 +119,6 @@ class EngineTest : public TempFolder {
     }
     return text;
   }
-
-  static void passTime(u32 milliseconds) { fake::clockNow += milliseconds; }
 };
 
 }  // namespace glonks

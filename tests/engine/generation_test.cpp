@@ -37,11 +37,11 @@ TEST_F(GenerationTest, DrawPicksTheHighestSlotWhoseRangeHoldsIt) {
                                                {400, "Three"}, {500, "Rest"}, {650, "Rest"},
                                                {999, "Rest"}};
   for (const auto& [draw, name] : cases) {
-    const Piece& piece = spawn(draw);
-    EXPECT_EQ(stateOf(piece), name + " 6 0 1 0") << draw;
-    EXPECT_EQ(piece.alive, True);
+    EXPECT_EQ(stateOf(spawn(draw)), name + " 6 0 1 0") << draw;
   }
-  EXPECT_EQ(fake::seedings, 7);  // each spawn seeds anew
+  compactFalling();
+  EXPECT_EQ(fallingPiecesUpper, 6);  // all alive
+  EXPECT_EQ(fake::seedings, 7);      // each spawn seeds anew
 }
 
 TEST_F(GenerationTest, TimedKindsAreArmedAfterTheColumn) {
@@ -76,10 +76,10 @@ TEST_F(GenerationTest, CalculatorDrawsItsValueBehindItsTimer) {
 
 TEST_F(GenerationTest, BallDrawnForAFullColumnHitsItsTopAtOnce) {
   entry(9, "Bowling Ball").isBowlingBall = True;
-  fillColumn(6, 6);
+  for (i16 row = 0; row < 6; ++row) put(row, 6);
   spawn(5);
   EXPECT_TRUE(fake::sounds.empty());
-  fillColumn(6, 7);
+  put(6, 6);
   spawn(5);
   EXPECT_EQ(fake::sounds, Names{"_bowling01"});
 }

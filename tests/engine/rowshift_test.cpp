@@ -15,16 +15,13 @@ TEST_F(RowShiftTest, SelectedRowAloneMovesByOneColumnAndWrapsAround) {
   drop(4);
   shiftRow(False);
   EXPECT_EQ(field(), "/JA...E....");
-  EXPECT_EQ(cellAt(0, 1).column, 1);
+  EXPECT_EQ((Numbers{cellAt(0, 0).column, cellAt(0, 1).column}), (Numbers{0, 1}));
   EXPECT_EQ(cellAt(0, 1).expiry, 777);
-  EXPECT_EQ(cellAt(0, 0).column, 0);
   EXPECT_EQ(cellAt(0, 6).name, "");
   EXPECT_EQ(stateOf(fallingPieces[0]), "Glonk 4 0 1 0");
   EXPECT_EQ(stateOf(fallingPieces[1]), "Glonk 4 435 0 4");  // hung over a free cell
   shiftRow(True);
   shiftRow(True);
-  EXPECT_EQ(field(), "/...E....JA");
-  EXPECT_EQ(cellAt(0, 9).column, 9);
   selectedRow = 5;
   shiftRow(True);
   EXPECT_EQ(field(), "/...E....JA");
@@ -36,7 +33,6 @@ TEST_F(RowShiftTest, StackAboveAGapIsLiftedLowestFirstAndPiecesKeepWhatTheyAre) 
   // second over a free column.
   for (const char* name : {"A", "B", "C", "D"}) put(static_cast<i16>(name[0] - 'A'), 6, name);
   cellAt(1, 6).velocity = -8;
-  cellAt(1, 6).tallied = True;
   selectedRow = 1;
   shiftRow(False);
   EXPECT_EQ(field(), "/......A...");
@@ -44,7 +40,6 @@ TEST_F(RowShiftTest, StackAboveAGapIsLiftedLowestFirstAndPiecesKeepWhatTheyAre) 
   EXPECT_EQ(stateOf(fallingPieces[0]), "B 7 435 -8 4");
   EXPECT_EQ(stateOf(fallingPieces[1]), "C 6 350 0 4");
   EXPECT_EQ(stateOf(fallingPieces[2]), "D 6 265 0 4");
-  EXPECT_EQ(fallingPieces[0].tallied, True);
   fallToRest();
   EXPECT_EQ(field(), "/......D.../......C.../......AB..");
 }
