@@ -31,11 +31,11 @@ std::string soundNotice;
 std::vector<unsigned char> waveBytes(const std::string& path) {
   std::vector<unsigned char> bytes = fileBytes(path);
   SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "strict");  // a cut-off file is a damaged one
-  SDL_AudioSpec spec;
+  SDL_AudioSpec format;
   Uint8* samples = nullptr;
   Uint32 length = 0;
   SDL_RWops* memory = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-  if (SDL_LoadWAV_RW(memory, 1, &spec, &samples, &length) == nullptr) failSample(path);
+  if (SDL_LoadWAV_RW(memory, 1, &format, &samples, &length) == nullptr) failSample(path);
   SDL_FreeWAV(samples);
   if (length == 0) {
     SDL_SetError("it holds no sound");
