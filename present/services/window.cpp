@@ -210,7 +210,8 @@ void handle(const SDL_Event& event) {
       handleWindowEvent(event.window);
       break;
     case SDL_AUDIODEVICEREMOVED:
-      if (event.adevice.iscapture == 0) noteDeviceRemoved();
+      // 0: a device that nobody had opened
+      if (event.adevice.iscapture == 0 && event.adevice.which != 0) noteDeviceRemoved();
       break;
     default:
       break;
@@ -235,6 +236,7 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
                             SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
   if (window == nullptr) fail("The game's window can't be opened");
   SDL_SetWindowMinimumSize(window, smallestWindow, smallestWindow);
+  SDL_StopTextInput();  // keys are for the game, not for an input method
   handlers = events;
   focusLost = false;
   minimised = false;
