@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,6 +13,7 @@
 #include <memory>
 #include <utility>
 
+#include "game/text.h"
 #include "present/services/window.h"
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/formwindow.h"
@@ -51,6 +54,35 @@ FormWindow* formInFront() {
     if (found == nullptr || window->isActiveWindow()) found = window;
   }
   return found;
+}
+
+FormWindow* dialogParent() {
+  levelVisibleForms();
+  return formInFront();
+}
+
+// Shows a dialog until the player has answered it, and gives what it gives.
+int runDialog(QDialog& box) {
+  box.setWindowTitle(programName);
+  if (box.parent() == nullptr) box.setWindowFlag(Qt::WindowStaysOnTopHint);
+  int answer = QDialog::Rejected;
+  {
+    const LoopInUse loop([&box] { box.reject(); });
+    answer = box.exec();
+  }
+  raiseKept();
+  return answer;
+}
+
+int askBox(const std::string& text, QMessageBox::StandardButtons buttons,
+           QMessageBox::StandardButton first) {
+  QMessageBox box(dialogParent());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(shownText(text));
+  box.setStandardButtons(buttons);
+  box.setDefaultButton(first);
+  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+  return runDialog(box);
 }
 
 }  // namespace
@@ -111,20 +143,20 @@ void letMessagesThrough() {
   raiseKept();
 }
 
-void messageBox(const std::string& text) {
-  levelVisibleForms();
-  FormWindow* parent = formInFront();
-  QMessageBox box(parent);
-  box.setWindowTitle(programName);
-  box.setTextFormat(Qt::PlainText);
-  box.setText(shownText(text));
-  box.addButton(QMessageBox::Ok)->setIcon(QIcon());
-  if (parent == nullptr) box.setWindowFlag(Qt::WindowStaysOnTopHint);
-  {
-    const LoopInUse loop([&box] { box.reject(); });
-    box.exec();
-  }
-  raiseKept();
+void messageBox(const std::string& text) { askBox(text, QMessageBox::Ok, QMessageBox::Ok); }
+
+Flag yesNoBox(const std::string& question) {
+  const auto buttons = QMessageBox::Yes | QMessageBox::No;
+  return flagOf(askBox(question, buttons, QMessageBox::Yes) == QMessageBox::Yes);
+}
+
+std::string inputBox(const std::string& prompt, i32 longest) {
+  QInputDialog box(dialogParent());
+  box.setInputMode(QInputDialog::TextInput);  // makes the line
+  box.setLabelText(shownText(prompt));
+  auto* line = box.findChild<QLineEdit*>();
+  line->setMaxLength(longest);
+  return runDialog(box) == QDialog::Accepted ? fromUtf8(line->text().toStdString()) : "";
 }
 
 }  // namespace glonks

@@ -33,7 +33,17 @@ void endProgram();
 // millisecond for the next one.
 void letMessagesThrough();
 
-// A box with a text and an OK button, in front of all the program's windows.
+// Dialogs, in front of all the program's windows. Enter presses their first button, Escape their
+// last.
+
+// A text with an OK button.
 void messageBox(const std::string& text);
+
+// A question with the buttons Yes and No: True for Yes, False for anything else.
+Flag yesNoBox(const std::string& question);
+
+// A line to type, at first empty, of at most `longest` characters, with the buttons OK and Cancel.
+// Gives what was typed, in Windows-1252 with "?" for what that set lacks; empty for Cancel.
+std::string inputBox(const std::string& prompt, i32 longest);
 
 }  // namespace glonks

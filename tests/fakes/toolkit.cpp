@@ -8,6 +8,8 @@ namespace fake {
 
 void resetToolkit() {
   boxes.clear();
+  yes = False;
+  typed.clear();
   forms.clear();
   messages = nullptr;
   messagePasses = 0;
@@ -23,6 +25,14 @@ void hideForm(Form& form) { fake::forms.push_back("hide " + form.caption); }
 void runEvents() {}
 void endProgram() {}
 void messageBox(const std::string& text) { fake::boxes.push_back(text); }
+Flag yesNoBox(const std::string& question) {
+  fake::boxes.push_back(question);
+  return fake::yes;
+}
+std::string inputBox(const std::string& prompt, i32 /*longest*/) {
+  fake::boxes.push_back(prompt);
+  return fake::typed;
+}
 
 void letMessagesThrough() {
   ++fake::messagePasses;

@@ -9,7 +9,9 @@
 // A toolkit without a screen, linked in the place of the real one.
 namespace glonks::fake {
 
-inline std::vector<std::string> boxes;  // texts of message boxes, in order
+inline std::vector<std::string> boxes;  // texts of all dialogs, in order
+inline Flag yes = False;                // what yesNoBox gives
+inline std::string typed;               // what inputBox gives
 inline std::vector<std::string> forms;  // "show Glonks", "hide Glonks" ...
 
 // Runs at each letMessagesThrough, where events would be handled; counts the calls.

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QLockFile>
 #include <QMainWindow>
@@ -244,6 +245,32 @@ TEST_F(Toolkit, messageBoxIsClosedByEnterAndEscapeWithOrWithoutAForm) {
     EXPECT_EQ(text, QString::fromUtf8("<b>caf\xc3\xa9"));
     hideForm(sheet->form);
   }
+}
+
+// Gives `answer` to the dialog that `ask` shows, by keys.
+template <typename Ask>
+auto answered(Ask ask, const std::function<void(QWidget*)>& answer) {
+  later([&] { answer(QApplication::activeModalWidget()); });
+  return ask();
+}
+
+TEST_F(Toolkit, questionsAreAnsweredByKeys) {
+  const auto press = [](Qt::Key key) { return [key](QWidget* box) { QTest::keyClick(box, key); }; };
+  const auto ask = [] { return yesNoBox("Really?"); };
+  EXPECT_EQ(answered(ask, press(Qt::Key_Return)), True);
+  EXPECT_EQ(answered(ask, press(Qt::Key_Escape)), False);
+
+  const auto type = [](Qt::Key end) {
+    return [end](QWidget* box) {
+      auto* line = box->findChild<QLineEdit*>();
+      EXPECT_TRUE(line->text().isEmpty());
+      line->insert(QString::fromUtf8("Zo\u00eb \u2603!too long"));
+      QTest::keyClick(line, end);
+    };
+  };
+  const auto askName = [] { return inputBox("Name?", 6); };
+  EXPECT_EQ(answered(askName, type(Qt::Key_Return)), "Zo\xeb ?!");
+  EXPECT_EQ(answered(askName, type(Qt::Key_Escape)), "");
 }
 
 // What a run of its own, which ends without letting go, gets for the folder.
