@@ -83,6 +83,7 @@ QScrollBar::handle:disabled { background: rgba(230, 232, 238, 40); }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 
+QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton {
   background: #2a2f3c;
   border: 1px solid #464e61;

@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 #include <clocale>
 #include <map>
 #include <memory>
@@ -81,7 +80,6 @@ int askBox(const std::string& text, QMessageBox::StandardButtons buttons,
   box.setText(shownText(text));
   box.setStandardButtons(buttons);
   box.setDefaultButton(first);
-  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
   return runDialog(box);
 }
 
