@@ -30,6 +30,8 @@ class EngineTest : public TempFolder {
  protected:
   EngineTest() {
     fake::resetClock();
+    fake::useGenerator();
+    makeKeys(keySeed, keyDrawArgument, keyScale);
     fake::resetRandom();
     fake::resetToolkit();
     fake::resetWindow();
@@ -53,14 +55,6 @@ class EngineTest : public TempFolder {
     EXPECT_TRUE(fake::draws.empty()) << "draws were not taken";
   }
 
-  // The key tables of the data files, and the catalogue that is read with them.
-  static void loadRealPieces() {
-    fake::useGenerator();
-    makeKeys(keySeed, keyDrawArgument, keyScale);
-    fake::resetRandom();
-    loadPieces();
-  }
-
   static Cell& cellAt(i32 row, i32 column) {
     return playfield[static_cast<std::size_t>(row)][column];
   }
@@ -75,6 +69,7 @@ class EngineTest : public TempFolder {
     cell.y = floorOf(row);
     return cell;
   }
+
   // A piece in flight; as it is spawned, if no more is said.
   static Piece& drop(i16 column, const std::string& name = "Glonk", i16 y = 0, i16 velocity = 1,
                      i16 bounces = 0) {

@@ -7,16 +7,14 @@ namespace glonks {
 class RowShiftTest : public EngineTest {};
 
 TEST_F(RowShiftTest, SelectedRowAloneMovesByOneColumnAndWrapsAround) {
-  for (const i16 column : {0, 4, 9})
-    put(0, column, std::string(1, static_cast<char>('A' + column)));
+  for (const char* name : {"A", "E", "J"}) put(0, static_cast<i16>(name[0] - 'A'), name);
   put(1, 4);
-  cellAt(0, 0).expiry = 777;
   cellAt(0, 6).name = "ghost";  // what a free cell still holds is wiped out
   drop(4);
   shiftRow(False);
   EXPECT_EQ(field(), "/JA...E....");
-  EXPECT_EQ((Numbers{cellAt(0, 0).column, cellAt(0, 1).column}), (Numbers{0, 1}));
-  EXPECT_EQ(cellAt(0, 1).expiry, 777);
+  EXPECT_EQ(stateOf(cellAt(0, 0)), "J 0 520 0 0");
+  EXPECT_EQ(stateOf(cellAt(0, 1)), "A 1 520 0 0");
   EXPECT_EQ(cellAt(0, 6).name, "");
   EXPECT_EQ(stateOf(fallingPieces[0]), "Glonk 4 0 1 0");
   EXPECT_EQ(stateOf(fallingPieces[1]), "Glonk 4 435 0 4");  // hung over a free cell

@@ -20,6 +20,8 @@
 namespace glonks {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 // The main window as a player has it, with real controls and no screen.
 class MainWindowTest : public TempFolder {
  protected:
@@ -66,15 +68,14 @@ class MainWindowTest : public TempFolder {
 };
 
 TEST_F(MainWindowTest, StartShowsPageZeroWithAllModesAndNothingChosen) {
-  EXPECT_EQ(tMode.items, (std::vector<std::string>{"Freestyle", "Arcade", "B-Type"}));
+  EXPECT_EQ(tMode.items, (Texts{"Freestyle", "Arcade", "B-Type"}));
   EXPECT_EQ(tMode.listIndex, -1);
   EXPECT_TRUE(tLevels.items.empty());
   EXPECT_EQ(textOf(scoreModes), "Freestyle");
-  EXPECT_EQ(songs.items.size(), 4U);
-  EXPECT_TRUE(std::is_sorted(songs.items.begin(), songs.items.end()));
-  for (std::size_t page = 0; page < frame.size(); ++page) {
-    EXPECT_EQ(frame[page].visible, page == 0 ? True : False);
-    EXPECT_EQ(frame[page].enabled, frame[page].visible);
+  EXPECT_TRUE(songs.items.size() == 4 && std::is_sorted(songs.items.begin(), songs.items.end()));
+  for (const Frame& page : frame) {
+    EXPECT_EQ(page.visible, flagOf(&page == &frame[0]));
+    EXPECT_EQ(page.enabled, page.visible);
   }
   EXPECT_EQ(bytesOf("\\log.txt"), "LOG OPENED ON 01/02/03 AT 04:05:06\r\n");
 }
@@ -83,21 +84,20 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevels) {
   ownDataFolders();
   putBytes("\\plain", "One, two\r\n 17 \r\nLast\r\n9");
   scrambleFile("\\plain", "\\init\\6537");
-  setText(tMode, "Arcade");
-  tLevels.listIndex = 1;
   for (i32 pick = 0; pick < 2; ++pick) {  // each pick reads the file anew
     setText(tMode, "Arcade");
-    EXPECT_EQ(tLevels.items, (std::vector<std::string>{"One, two", "Last"}));
+    EXPECT_EQ(tLevels.items, (Texts{"One, two", "Last"}));
     EXPECT_EQ(tLevels.itemData, (std::vector<i32>{17, 9}));
     EXPECT_EQ(tLevels.listIndex, -1);
+    tLevels.listIndex = 1;
   }
   EXPECT_EQ(tModeDesc.caption,
             "Every level challenges you with new situations and new goals.  How far can you go?");
   setText(tMode, "B-Type");
-  EXPECT_EQ(tLevels.items, (std::vector<std::string>{"Mild", "Medium", "Spicy"}));
+  EXPECT_EQ(tLevels.items, (Texts{"Mild", "Medium", "Spicy"}));
   EXPECT_TRUE(holds(tModeDesc.caption, "B-Type begins with pieces already in play.  Your goal"));
   setText(tMode, "Freestyle");
-  EXPECT_EQ(tLevels.items, std::vector<std::string>{"No levels to select.  Just click Play!"});
+  EXPECT_EQ(tLevels.items, Texts{"No levels to select.  Just click Play!"});
   EXPECT_TRUE(holds(tModeDesc.caption, "ultimate Glonk dance party.  Every piece makes"));
 
   putBytes("\\plain", "Alone\r\n");

@@ -7,27 +7,19 @@
 namespace glonks {
 namespace {
 
-TEST(Text, GoesToUtf8AndBackForAllCodes) {
-  std::string high;
-  for (int code = 0x80; code <= 0x9F; ++code) high += static_cast<char>(code);
-  EXPECT_EQ(toUtf8(high), "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ");
+TEST(Text, GoesToUtf8AndBack) {
+  std::string all;
+  for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+  EXPECT_EQ(toUtf8(all.substr(0x80, 32)),
+            "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ");
   EXPECT_EQ(toUtf8("A~\n \xA0\xBF\xC0\xE9\xFF"), "A~\n \u00A0¿Àéÿ");
-  for (int code = 0; code < 256; ++code) {
-    const std::string one(1, static_cast<char>(code));
-    EXPECT_EQ(fromUtf8(toUtf8(one)), one) << "code " << code;
-  }
-}
-
-TEST(Text, WhatTheSetDoesNotHaveBecomesAQuestionMark) {
-  const std::pair<const char*, const char*> table[] = {
-      {"aĀ漢😀\u0080z", "a????z"},   // other letters, and a code that the set gives to another
-      {"a\x80\xFFz", "a??z"},       // bytes that start nothing
-      {"a\xE2\x82", "a??"},         // cut off at the end,
-      {"\xC3(\xE2\x82z", "?(??z"},  // and by a letter
-      {"\xF4\x90\x80\x80z", "?z"},  // beyond the last character
-      {"\xC1\xAF", "?"},            // too long a form
-  };
-  for (const auto& [utf8, text] : table) EXPECT_EQ(fromUtf8(utf8), text);
+  EXPECT_EQ(fromUtf8(toUtf8(all)), all);
+  // What the set doesn't have becomes a question mark.
+  EXPECT_EQ(fromUtf8("aĀ漢😀z"), "a???z");
+  EXPECT_EQ(fromUtf8("\u0080"), "?") << "a code that the set gives to another character";
+  EXPECT_EQ(fromUtf8("a\x80\xFFz"), "a??z") << "bytes that start nothing";
+  EXPECT_EQ(fromUtf8("\xC3(\xE2\x82z\xE2\x82"), "?(??z??") << "cut off by a letter and at the end";
+  EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80z\xC1\xAF"), "?z?") << "too large, and too long a form";
 }
 
 struct DecimalComma : std::numpunct<char> {
@@ -35,11 +27,8 @@ struct DecimalComma : std::numpunct<char> {
 };
 
 TEST(Text, NumbersAreReadFromTheLeadingPartInAnyLocale) {
-  const struct {
-    const char* text;
-    double number;
-    bool whole;  // the text is a number and nothing else
-  } table[] = {
+  // Each with its number, and whether it is a number and nothing else.
+  const std::tuple<const char*, double, bool> table[] = {
       {"12", 12, true},     {"-3.25", -3.25, true}, {"+5", 5, true},      {".5", 0.5, true},
       {"7.", 7, true},      {"1e3", 1000, true},    {"1E-2", 0.01, true}, {" \t4 ", 4, true},
       {"12abc", 12, false}, {"1e", 1, false},       {"1e+x", 1, false},   {"1.2.3", 1.2, false},
@@ -48,12 +37,11 @@ TEST(Text, NumbersAreReadFromTheLeadingPartInAnyLocale) {
   };
   const std::locale before =
       std::locale::global(std::locale(std::locale::classic(), new DecimalComma));
-  for (const auto& row : table) {
-    EXPECT_DOUBLE_EQ(leadingNumber(row.text), row.number) << '"' << row.text << '"';
-    EXPECT_EQ(isNumber(row.text), row.whole) << '"' << row.text << '"';
+  for (const auto& [text, number, whole] : table) {
+    EXPECT_DOUBLE_EQ(leadingNumber(text), number) << '"' << text << '"';
+    EXPECT_EQ(isNumber(text), whole) << '"' << text << '"';
   }
   std::locale::global(before);
-  EXPECT_LT(leadingNumber("-1e999"), -1e300);
   EXPECT_EQ(signedNumber(0) + signedNumber(-1234567), " 0-1234567");
 }
 
