@@ -66,7 +66,7 @@ void showTexture(const u32* pixels) {
 constexpr i32 tileWidth = 64;
 constexpr i32 tileHeight = 32;
 
-SDL_Surface* target = nullptr;          // SDL's own, new whenever the window's size has changed
+SDL_Surface* target = nullptr;  // SDL's own, new whenever the window's size has changed
 i32 targetWidth = 0;
 i32 targetHeight = 0;
 std::vector<u32> shownPixels;           // the picture that stands on the screen

@@ -144,7 +144,8 @@ void regainFocus() {
   for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) stale[i] = held[i] != 0;
 }
 
-// Between the whole screen and a window of the picture's own size, or what the desktop has room for.
+// Between the whole screen and a window of the picture's own size, or what the desktop has room
+// for.
 void switchFullScreen() {
   constexpr int ownWidth = 1024;
   constexpr int ownHeight = 768;
