@@ -53,6 +53,7 @@ void FormWindow::focusFirst() {
 }
 
 void FormWindow::present() {
+  setEnabled(true);
   level();
   if (!isVisible()) place();
   if (isMinimized()) showNormal();
@@ -78,6 +79,7 @@ void FormWindow::putAway() {
   if (!isVisible()) return;
   place_ = pos();
   hide();
+  setEnabled(false);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
