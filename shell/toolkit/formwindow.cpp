@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
+#include <utility>
 
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/style.h"
@@ -58,7 +59,12 @@ void FormWindow::present() {
   if (!isVisible()) place();
   if (isMinimized()) showNormal();
   show();
-  if (focusWidget() == nullptr) focusFirst();
+  const QPointer<QWidget> before = std::exchange(inFocus_, nullptr);
+  if (before != nullptr && before->isVisible()) {
+    before->setFocus();
+  } else if (focusWidget() == nullptr) {
+    focusFirst();
+  }
   raise();
   activateWindow();
 }
@@ -78,6 +84,7 @@ void FormWindow::place() {
 void FormWindow::putAway() {
   if (!isVisible()) return;
   place_ = pos();
+  inFocus_ = focusWidget();
   hide();
   setEnabled(false);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <vector>
 
 #include "shell/toolkit/controls.h"
@@ -36,6 +37,7 @@ class FormWindow : public QMainWindow {
   std::vector<TabStop> stops_;
   bool placed_ = false;  // the place to come back to is place_
   QPoint place_;
+  QPointer<QWidget> inFocus_;  // when the form was put away
 };
 
 }  // namespace glonks
