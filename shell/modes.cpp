@@ -18,10 +18,11 @@ void readOpenLevels() {
   while (!endOfFile(levelListChannel)) {
     addItem(tLevels, readLine(levelListChannel, "level name"));
     const std::string field = "number of level \"" + tLevels.items.back() + "\"";
-    const double number = leadingNumber(readLine(levelListChannel, field));
+    const std::string number = readLine(levelListChannel, field);
+    if (!isNumber(number)) badField(levelListChannel, field, "isn't a number.");
     using Whole = std::numeric_limits<i32>;
     tLevels.itemData.back() =
-        roundedField(levelListChannel, field, number, Whole::min(), Whole::max());
+        roundedField(levelListChannel, field, leadingNumber(number), Whole::min(), Whole::max());
   }
   file.close();
 }

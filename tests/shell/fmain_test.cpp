@@ -100,9 +100,11 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevels) {
   EXPECT_EQ(tLevels.items, Texts{"No levels to select.  Just click Play!"});
   EXPECT_TRUE(holds(tModeDesc.caption, "ultimate Glonk dance party.  Every piece makes"));
 
-  putBytes("\\plain", "Alone\r\n");
-  scrambleFile("\\plain", "\\init\\6537");
-  EXPECT_PRED2(holds, errorOf([] { setText(tMode, "Arcade"); }), "\\init\\6537");
+  for (const char* plain : {"Alone\r\n", "Level\r\nseven\r\n"}) {
+    putBytes("\\plain", plain);
+    scrambleFile("\\plain", "\\init\\6537");
+    EXPECT_PRED2(holds, errorOf([] { setText(tMode, "Arcade"); }), "\\init\\6537");
+  }
 }
 
 TEST_F(MainWindowTest, PlayAsksForWhatIsMissing) {
