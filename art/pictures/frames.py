@@ -9,7 +9,7 @@ from .shapes import box, circle, darker, fill, lighter, line, polygon, rgb, slop
 
 WIDTH, HEIGHT = 1024, 768
 WINDOW = (81, 80, 934, 690)     # inclusive: the plate shows through here
-ICON, ICON_SHIFT, ICON_MIDDLE = 32, 30, 42
+ICON, ICON_SHIFT, ICON_MIDDLE = 32, 42, 42
 
 
 def bubbles(ctx, rng, x, y, tint):
