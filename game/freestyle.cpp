@@ -40,7 +40,9 @@ void startFrogBonus() {
   frogBonusUntil = gameTick() + frogBonusLength;
 }
 
-// The order within a frame is part of the rules.
+// The order within a frame is part of the rules. An oddity that is kept: the background is laid
+// after the Flip, so the first frame lies on the loading screen and the first after a pause on its
+// line.
 void runFrame(i32& nextFrame) {
   stepRules();
   drawMovingThings();

@@ -9,10 +9,7 @@ namespace glonks {
 
 void DirectInputDevice::SetCommonDataFormat(i32 format) { format_ = format; }
 
-void DirectInputDevice::SetCooperativeLevel(i32 hWnd, i32 flags) {
-  hWnd_ = hWnd;
-  flags_ = flags;
-}
+void DirectInputDevice::SetCooperativeLevel(i32 hWnd, i32 /*flags*/) { hWnd_ = hWnd; }
 
 void DirectInputDevice::Acquire() {
   if (format_ == 0 || hWnd_ == 0) {

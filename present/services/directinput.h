@@ -27,7 +27,6 @@ class DirectInputDevice {
  private:
   i32 format_ = 0;
   i32 hWnd_ = 0;
-  i32 flags_ = 0;
   bool acquired_ = false;
 };
 

@@ -51,8 +51,8 @@ SdlSurface wrapped(std::vector<u32>& pixels, i32 width, i32 height) {
                                                        SDL_PIXELFORMAT_RGB888));
 }
 
-// Pixels of `size` by `size` stretched to another size: smooth, or nearest so that no pixel takes a
-// mixture of a key colour.
+// A picture stretched to another size: smoothly, or by the nearest pixels, so that none takes a
+// mixture with a key colour.
 std::vector<u32> stretched(std::vector<u32>& pixels, i32 width, i32 height, i32 newWidth,
                            i32 newHeight, bool smooth) {
   std::vector<u32> result(static_cast<std::size_t>(newWidth) * newHeight);

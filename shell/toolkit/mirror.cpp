@@ -138,36 +138,34 @@ void choose(Choices& list, int row) {
   });
 }
 
-class ComboBoxMirror : public MirrorOf<ComboBox, DropDown> {
+template <typename Data, typename View>
+class ChoicesMirror : public MirrorOf<Data, View> {
  public:
-  ComboBoxMirror(ComboBox& data, QWidget& parent) : MirrorOf(data, parent) {
-    view_.setMaxVisibleItems(12);
-    QObject::connect(&view_, &QComboBox::activated, [this](int row) { choose(data_, row); });
-  }
+  using MirrorOf<Data, View>::MirrorOf;
 
  protected:
   void levelContents() override {
-    if (differs(&Choices::items)) {
-      view_.clear();
-      view_.addItems(shownItems(data_));
+    View& view = this->view_;
+    if (this->differs(&Choices::items)) {
+      view.clear();
+      view.addItems(shownItems(this->data_));
     }
-    if (view_.currentIndex() != data_.listIndex) view_.setCurrentIndex(data_.listIndex);
+    if (view.selectedRow() != this->data_.listIndex) view.selectRow(this->data_.listIndex);
   }
 };
 
-class ListBoxMirror : public MirrorOf<ListBox, ChoiceList> {
+class ComboBoxMirror : public ChoicesMirror<ComboBox, DropDown> {
  public:
-  ListBoxMirror(ListBox& data, QWidget& parent) : MirrorOf(data, parent) {
-    view_.chosen = [this](int row) { choose(data_, row); };
+  ComboBoxMirror(ComboBox& data, QWidget& parent) : ChoicesMirror(data, parent) {
+    view_.setMaxVisibleItems(12);
+    QObject::connect(&view_, &QComboBox::activated, [this](int row) { choose(data_, row); });
   }
+};
 
- protected:
-  void levelContents() override {
-    if (differs(&Choices::items)) {
-      view_.clear();
-      view_.addItems(shownItems(data_));
-    }
-    if (view_.selectedRow() != data_.listIndex) view_.selectRow(data_.listIndex);
+class ListBoxMirror : public ChoicesMirror<ListBox, ChoiceList> {
+ public:
+  ListBoxMirror(ListBox& data, QWidget& parent) : ChoicesMirror(data, parent) {
+    view_.chosen = [this](int row) { choose(data_, row); };
   }
 };
 

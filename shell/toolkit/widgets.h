@@ -43,6 +43,9 @@ class DropDown : public QComboBox {
  public:
   using QComboBox::QComboBox;
 
+  int selectedRow() const { return currentIndex(); }  // -1: none
+  void selectRow(int row) { setCurrentIndex(row); }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 };

@@ -54,11 +54,14 @@ TEST_F(FreestyleTest, FrameTakesInPendingSpawnsShowsTheBoardAndLaysTheNextBackgr
   frameSurface = pointerSurface = nullptr;
   put(0, 0).imageIndex = 18;
   pendingSpawns = 5;  // left over from a game before
+  fake::watchedX = 125;
+  fake::watchedY = 645;
   playFor(85, [](i32 now) {
     if (now == 40) pendingSpawns = 3;
   });
   ASSERT_EQ(fallingPiecesUpper, 2);
   EXPECT_EQ(fallingPieces[0].y, 2);  // entered after the physics of the frame at 53
+  EXPECT_EQ(fake::watchedPixel, entryAt(18).surface->pixel(45, 45));
   EXPECT_EQ(backBuffer->pixel(125, 645), static_cast<u32>(RGB(1, 2, 3)));  // no piece yet
 }
 

@@ -40,7 +40,10 @@ void letWindowMessagesThrough() {
 void ShowCursor(i32 show) { fake::cursorShown = show; }
 void openScreen(i32 /*handle*/, i32 /*width*/, i32 /*height*/) {}
 void closeScreen() {}
-void showPicture(const u32* /*pixels*/) { ++fake::picturesShown; }
+void showPicture(const u32* pixels) {
+  ++fake::picturesShown;
+  fake::watchedPixel = pixels[fake::watchedY * 1024 + fake::watchedX];
+}
 bool screenLost() { return fake::screenIsLost; }
 const unsigned char* keyTable() { return fake::keys.data(); }
 

@@ -12,6 +12,9 @@ namespace glonks::fake {
 inline std::array<unsigned char, 256> keys = {};  // by scan code
 inline bool screenIsLost = false;
 inline i32 picturesShown = 0;
+inline i32 watchedX = 0;  // a place on the screen, and what the last picture showed there
+inline i32 watchedY = 0;
+inline u32 watchedPixel = 0;
 inline bool windowOpen = false;
 inline i32 cursorShown = 1;  // the last argument of ShowCursor
 
