@@ -16,6 +16,7 @@
 #include "game/text.h"
 #include "present/display.h"
 #include "present/fielddrawing.h"
+#include "present/keyedpicture.h"
 #include "present/services/directsound.h"
 #include "storage/paths.h"
 

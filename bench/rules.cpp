@@ -2,7 +2,7 @@
 
 #include "game/loadresources.h"
 #include "game/model.h"
-#include "game/playframe.h"
+#include "game/playloop.h"
 #include "present/display.h"
 #include "rules/rowshift.h"
 
@@ -44,7 +44,7 @@ void runRules(benchmark::State& state) {
   loadSamples();
   refill();
   for (auto _ : state) {
-    stepRules();
+    stepRules(runPlainly);
     if (fallingPiecesUpper < columnCount / 2) {
       fallingPieces.clear();
       fallingPiecesUpper = -1;

@@ -2,15 +2,13 @@
 
 #include "game/gametick.h"
 #include "game/model.h"
-#include "game/playframe.h"
+#include "game/playloop.h"
 #include "game/random.h"
 #include "game/text.h"
 #include "present/display.h"
-#include "present/fielddrawing.h"
 #include "present/frogparade.h"
 #include "present/ticker.h"
 #include "rules/generation.h"
-#include "storage/log.h"
 
 namespace glonks {
 namespace {
@@ -27,10 +25,16 @@ constexpr i32 scoreY = 45;
 void spawnOrNote() {
   const i32 draw = drawBelow(noteChance);
   if (draw == noteDraw && notesCollected < notesLimit) {
-    spawnMusicNote();
+    dropNamed("Music");
   } else {
     spawnPiece();
   }
+}
+
+void drawScore() { backBuffer->DrawText(scoreX, scoreY, plainNumber(score), False); }
+
+void showParade() {
+  if (frogBonusOn == True && frogBonusUntil + paradeOvertime > gameTick()) frogParade();
 }
 
 void startFrogBonus() {
@@ -40,42 +44,8 @@ void startFrogBonus() {
   frogBonusUntil = gameTick() + frogBonusLength;
 }
 
-// The order within a frame is part of the rules. An oddity that is kept: the background is laid
-// after the Flip, so the first frame lies on the loading screen and the first after a pause on its
-// line.
-void runFrame(i32& nextFrame) {
-  stepRules();
-  drawMovingThings();
-  backBuffer->DrawText(scoreX, scoreY, plainNumber(score), False);
-  primarySurface->Flip(nullptr, flipWait);
-  nextFrame = gameTick() + framePeriod;
-  layPlate();
-  if (frogBonusOn == True && frogBonusUntil + paradeOvertime > gameTick()) frogParade();
-  layFrame();
-  startFrogBonus();
-}
-
 }  // namespace
 
-void play() {
-  logStep("play - initializing variables");
-  gameOver = False;
-  i32 nextSpawn = gameTick() + firstSpawnDelay;
-  i32 nextFrame = gameTick();
-  lastKeyTick = gameTick();
-  nextPointsTick = gameTick() + timePointsPeriod;
-  pendingSpawns = 0;
-  logStep("play - entering main loop");
-
-  while (gameOver != True) {
-    if (nextSpawn < gameTick()) {
-      spawnOrNote();
-      nextSpawn = gameTick() + spawnInterval;
-    }
-    if (nextFrame < gameTick()) runFrame(nextFrame);
-    payTimePoints();
-    endPass();
-  }
-}
+void play() { runLoop({runPlainly, spawnOrNote, {drawScore}, {showParade}, {startFrogBonus}}); }
 
 }  // namespace glonks

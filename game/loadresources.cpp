@@ -5,6 +5,7 @@
 #include "game/resources.h"
 #include "game/text.h"
 #include "present/display.h"
+#include "present/keyedpicture.h"
 #include "shell/menucontrols.h"
 
 namespace glonks {
@@ -62,12 +63,6 @@ void loadPlate() {
 }
 
 }  // namespace
-
-Surface loadKeyedPicture(const std::string& name, SurfaceDesc& desc) {
-  Surface picture = dd->CreateSurfaceFromFile("\\images\\" + name + ".bmp", desc);
-  picture->SetColorKey(sourceBlitKey, colorKey);
-  return picture;
-}
 
 void loadSamples() {
   _changerow = loadSample("_changerow");

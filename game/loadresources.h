@@ -1,15 +1,8 @@
 #pragma once
 
-#include <string>
-
-#include "present/services/surface.h"
-
 // Samples and pictures from the folders beside the program. All need initDX, and raise fileNotFound
 // or badFile, naming the file.
 namespace glonks {
-
-// "\images\", the name and ".bmp", with the game's colour key set; `desc` takes its size.
-Surface loadKeyedPicture(const std::string& name, SurfaceDesc& desc);
 
 // The 24 samples of a game, from "\sounds\".
 void loadSamples();

@@ -140,6 +140,13 @@ Element& grow(std::vector<Element>& list, i16& upper) {
   return list.back();
 }
 
+// Keeps the elements of a growing list for which `keep` holds, in their order.
+template <typename Element, typename Keep>
+void keepIf(std::vector<Element>& list, i16& upper, Keep keep) {
+  std::erase_if(list, [&](const Element& element) { return !keep(element); });
+  upper = static_cast<i16>(static_cast<i32>(list.size()) - 1);
+}
+
 inline constexpr i16 itemKinds = 6;
 inline constexpr i16 slammerItem = 0;
 inline constexpr i16 bombItem = 1;
@@ -170,6 +177,9 @@ inline i16 musicVolume = 70;             // 0 to 100, for the next song; kept
 inline i16 songIndex = -1;               // position in the list of songs; kept
 inline std::string songTitle;            // line at the foot of the screen; kept
 inline u32 tickBase = 0;                 // what gameTick takes off the clock, ms; kept
+
+// Adds points, which may be negative, to `score` at once.
+inline void payScore(i64 points) { score = held<i32>(score + points); }
 
 // What "no goal" reads in the level fields.
 inline const std::string noName = "-1";

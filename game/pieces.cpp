@@ -1,7 +1,7 @@
 #include "game/pieces.h"
 
-#include "game/loadresources.h"
-#include "present/display.h"
+#include "game/model.h"
+#include "present/keyedpicture.h"
 #include "storage/fieldreader.h"
 #include "storage/scrambledfiles.h"
 #include "storage/textchannels.h"

@@ -1,9 +1,38 @@
 #include "present/counters.h"
 
-namespace glonks {
+#include <string>
 
-// The counters aren't built yet.
-void drawItems() {}
-void drawGoals() {}
+#include "game/model.h"
+#include "game/text.h"
+#include "present/display.h"
+#include "shell/menucontrols.h"
+
+namespace glonks {
+namespace {
+
+constexpr i32 lineY = 33;
+constexpr i32 firstX = 300;
+constexpr i32 itemPitch = 100;
+constexpr i16 itemsShown = 4;
+constexpr i32 bankX = 795;
+constexpr i32 notesX = 895;
+
+void drawCounter(i32 x, i32 count) {
+  backBuffer->DrawText(x, lineY, plainNumber(count) + " x ", False);
+}
+
+}  // namespace
+
+void drawItems() {
+  const std::string mode = textOf(tMode);
+  if (mode == "Freestyle") {
+    for (i16 item = 0; item < itemsShown; ++item) {
+      drawCounter(firstX + itemPitch * item, itemStock[static_cast<std::size_t>(item)]);
+    }
+  }
+  if (mode == "B-Type") drawCounter(firstX, bTypeLeft);
+  drawCounter(bankX, bank);
+  drawCounter(notesX, notesCollected);
+}
 
 }  // namespace glonks

@@ -2,9 +2,7 @@
 
 namespace glonks {
 
-// Text lines in the top band of the frame: the counters of goods, credits and notes, and an Arcade
-// level's goals, which also carry the steps of its timers.
+// The counters in the top band of the frame: goods, pieces left, credits and notes, by the mode.
 void drawItems();
-void drawGoals();
 
 }  // namespace glonks

@@ -1,10 +1,28 @@
 #include "present/effects.h"
 
-namespace glonks {
+#include "game/model.h"
+#include "game/resources.h"
 
-// The effects aren't built yet: until then nothing is raised.
-void pushImpact(i16 /*x*/, i16 /*y*/, Flag /*silent*/) {}
-void pushZap(i16 /*x*/, i16 /*y*/, Flag /*horizontal*/) {}
-void pushPopup(i16 /*x*/, i16 /*y*/, i32 /*points*/) {}
+namespace glonks {
+namespace {
+
+constexpr i16 impactStart = 10;  // ages
+constexpr i16 zapStart = 5;
+
+}  // namespace
+
+void pushImpact(i16 x, i16 y, Flag silent) {
+  grow(impacts, impactsUpper) = {x, y, impactStart};
+  if (silent == False) _pop01->Play(0);
+}
+
+void pushZap(i16 x, i16 y, Flag horizontal) {
+  grow(zaps, zapsUpper) = {horizontal, zapStart, x, y};
+  _slam01->Play(0);
+}
+
+void pushPopup(i16 x, i16 y, i32 points) {
+  grow(scorePopups, scorePopupsUpper) = {x, y, held<i16>(points)};
+}
 
 }  // namespace glonks

@@ -1,8 +1,25 @@
 #include "present/tickerdrawing.h"
 
-namespace glonks {
+#include "game/model.h"
+#include "present/display.h"
 
-// The ticker isn't built yet, so its list stays empty.
-void drawTicker() {}
+namespace glonks {
+namespace {
+
+constexpr Rect glyphSource{0, 0, 50, 50};
+constexpr i32 tickerTop = 365;
+constexpr i16 tickerStep = 14;  // pixels a frame, to the left
+
+}  // namespace
+
+void drawTicker() {
+  keepIf(tickerLines, tickerUpper, [](const TickerGlyph& letter) { return letter.x > tickerStep; });
+  for (TickerGlyph& letter : tickerLines) {
+    letter.x = static_cast<i16>(letter.x - tickerStep);
+    backBuffer->Blt(
+        {letter.x, tickerTop, letter.x + glyphSource.right, tickerTop + glyphSource.bottom},
+        letter.glyph, glyphSource, bltKeyed);
+  }
+}
 
 }  // namespace glonks

@@ -73,8 +73,7 @@ void landPiece(i16 index, i16 column) {
 }
 
 void compactFalling() {
-  std::erase_if(fallingPieces, [](const Piece& piece) { return piece.alive != True; });
-  fallingPiecesUpper = static_cast<i16>(static_cast<i32>(fallingPieces.size()) - 1);
+  keepIf(fallingPieces, fallingPiecesUpper, [](const Piece& piece) { return piece.alive == True; });
 }
 
 }  // namespace glonks

@@ -1,8 +1,55 @@
 #include "rules/fruit.h"
 
-namespace glonks {
+#include <array>
+#include <string>
 
-// Fruit isn't built yet.
-void fruitize() {}
+#include "game/errors.h"
+#include "game/model.h"
+#include "game/text.h"
+#include "present/display.h"
+#include "present/keyedpicture.h"
+#include "storage/log.h"
+
+namespace glonks {
+namespace {
+
+constexpr i32 fruitValue = 100;  // points more
+constexpr std::array<const char*, 4> fruitPictures = {"apple", "orange", "cherry", "grapes"};
+
+// Pieces are drawn by the catalogue's surface alone; all others that they hold follow it.
+void turnToFruit(Piece& piece) {
+  if (piece.name != "Glonk") return;
+  const auto fruit = static_cast<std::size_t>(piece.variety) - 1;  // by variety, from 1
+  if (fruit < fruitPictures.size()) {
+    piece.surface = loadKeyedPicture(fruitPictures[fruit], piece.surfaceDesc);
+  }
+  piece.value = held<i32>(i64{piece.value} + fruitValue);
+}
+
+void turnAllToFruit() {
+  for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
+    turnToFruit(pieceCatalog[static_cast<std::size_t>(slot)]);
+  }
+  for (Piece& piece : fallingPieces) turnToFruit(piece);
+  for (Row& row : playfield) {
+    for (Cell& cell : row.cells) {
+      if (cell.occupied == True) turnToFruit(cell);
+    }
+  }
+}
+
+}  // namespace
+
+void fruitize() {
+  if (!dd) return;  // an earlier cocktail of this frame has failed and given the screen back
+  try {
+    turnAllToFruit();
+  } catch (const RuntimeError& error) {
+    logStep("error occured in fruitize function.");
+    logStep(plainNumber(error.number()) + ", " + error.what());
+    gameOver = True;
+    destroy();
+  }
+}
 
 }  // namespace glonks

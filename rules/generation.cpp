@@ -55,10 +55,11 @@ void spawnPiece() {
   if (piece.isBowlingBall == True) openFullColumn(piece.column);
 }
 
-void spawnMusicNote() {
+Piece& dropNamed(const std::string& name) {
   Piece& piece = grow(fallingPieces, fallingPiecesUpper);
-  piece = pieceCatalog[static_cast<std::size_t>(slotNamed("Music"))];
+  piece = pieceCatalog[static_cast<std::size_t>(slotNamed(name))];
   enter(piece);
+  return piece;
 }
 
 }  // namespace glonks

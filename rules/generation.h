@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "game/model.h"
+
 // How pieces come into play.
 namespace glonks {
 
@@ -8,8 +12,9 @@ namespace glonks {
 // once.
 void spawnPiece();
 
-// Adds a Music note in a column drawn, whatever the level's ranges are. Raises badFile if the
-// catalogue has no "Music".
-void spawnMusicNote();
+// Adds a piece of this name, the lowest catalogue slot's, in a column drawn, whatever the level's
+// ranges are. Its timer isn't armed. Raises badFile if the catalogue has no such piece. The
+// reference stands until the next piece is added.
+Piece& dropNamed(const std::string& name);
 
 }  // namespace glonks

@@ -1,8 +1,15 @@
 #include "rules/items.h"
 
+#include "rules/bowling.h"
+#include "rules/generation.h"
+#include "rules/timer.h"
+
 namespace glonks {
 
-// Items aren't built yet: until then nothing is dropped.
-void dropItem(const std::string& /*name*/) {}
+void dropItem(const std::string& name) {
+  Piece& piece = dropNamed(name);
+  armTimer(piece);
+  if (name == "Bowling Ball") openFullColumn(piece.column);
+}
 
 }  // namespace glonks

@@ -1,9 +1,126 @@
 #include "rules/removal.h"
 
-namespace glonks {
+#include <algorithm>
+#include <array>
+#include <cstdlib>
 
-// Removal isn't built yet: until then nothing is destroyed.
-void removePiece(i16 /*row*/, i16 /*column*/) {}
-void explodeBomb(i16 /*row*/, i16 /*column*/) {}
+#include "game/gametick.h"
+#include "game/random.h"
+#include "game/resources.h"
+#include "present/applause.h"
+#include "present/effects.h"
+#include "present/ticker.h"
+#include "rules/fruit.h"
+#include "rules/rowshift.h"
+
+namespace glonks {
+namespace {
+
+constexpr i16 baubleSpawns = 3;  // pieces that a Bauble removed too early queues
+constexpr i16 lastSpreadColumn = 6;
+constexpr std::size_t glonkVarieties = 4;  // 1 to 4
+constexpr i32 fruitPoints = 5000;
+
+Cell& cellAt(i32 row, i32 column) { return playfield[static_cast<std::size_t>(row)][column]; }
+
+void countDown(i16& count) { count = held<i16>(i32{count} - 1); }
+
+void countForGoals(const Cell& cell) {
+  if (cell.name == avoidName) countDown(avoidLeft);
+  if (cell.name != goalPieceName) return;
+  if (cell.name != "Bauble" || cell.expiry > gameTick()) countDown(goalPieceCount);
+}
+
+void countBType() {
+  if (bTypeLeft == 1) {
+    pushMessage("victory!");
+    applause();
+  }
+  countDown(bTypeLeft);
+}
+
+void pay(const Cell& cell) {
+  if (cell.isMoney == True) {
+    bank = held<i16>(i32{bank} + 1);
+    _coin01->Play(0);
+  } else if (cell.name == "Music") {
+    _music01->Play(0);
+    notesCollected = held<i32>(i64{notesCollected} + 1);
+  } else {
+    pushPopup(effectX(cell.column), effectY(cell.y), held<i32>(std::abs(i64{cell.value})));
+  }
+}
+
+void knockOverByChance(i16 row, i32 column) {
+  if (drawBelow(2) == 1) removePiece(row, static_cast<i16>(column));
+}
+
+// A Pin takes its neighbours below and, by chance, beside it. Two oddities that are kept: right of
+// column 6 nothing is taken on that side, and a neighbouring Pin may spread back to this one, which
+// is still there and then falls, pays and counts twice.
+void spread(i16 row, i16 column) {
+  const Cell& pin = cellAt(row, column);
+  pushImpact(effectX(pin.column), effectY(pin.y), False);
+  if (row > 0) {
+    const auto below = static_cast<i16>(row - 1);
+    removePiece(below, column);
+    if (column > 0) removePiece(below, static_cast<i16>(column - 1));
+    if (column < lastSpreadColumn) removePiece(below, static_cast<i16>(column + 1));
+  }
+  if (column > 0) knockOverByChance(row, column - 1);
+  if (column < lastSpreadColumn) knockOverByChance(row, column + 1);
+}
+
+bool isOnBoard(i32 row, i32 column) {
+  return row >= 0 && row < rowCount && column >= 0 && column < columnCount;
+}
+
+// Removes the bombable neighbours of a cell. Gives whether Glonks of all varieties were among them.
+bool blast(i16 row, i16 column) {
+  std::array<bool, glonkVarieties> taken = {};
+  for (i32 i = row - 1; i <= row + 1; ++i) {
+    for (i32 j = column - 1; j <= column + 1; ++j) {
+      if (!isOnBoard(i, j) || (i == row && j == column)) continue;
+      const Cell& cell = cellAt(i, j);
+      if (cell.occupied != True || cell.bombable != True) continue;
+      const auto variety = static_cast<std::size_t>(cell.variety) - 1;
+      if (cell.name == "Glonk" && variety < taken.size()) taken[variety] = true;
+      removePiece(static_cast<i16>(i), static_cast<i16>(j));
+    }
+  }
+  return std::all_of(taken.begin(), taken.end(), [](bool one) { return one; });
+}
+
+}  // namespace
+
+void removePiece(i16 row, i16 column) {
+  Cell& cell = cellAt(row, column);
+  if (cell.occupied != True) return;
+  countForGoals(cell);
+  if (cell.isGorgon == True) _gorgon02->Play(0);
+  if (cell.isBauble == True) {
+    _bauble01->Play(0);
+    pendingSpawns = held<i16>(i32{pendingSpawns} + baubleSpawns);
+  }
+  if (cell.name == "BType") countBType();
+  pay(cell);
+  if (cell.isPin == True) spread(row, column);
+  cell.occupied = False;
+  cell.name.clear();
+}
+
+void explodeBomb(i16 row, i16 column) {
+  const Cell& bomb = cellAt(row, column);
+  removePiece(row, column);
+  pushImpact(effectX(bomb.column), effectY(bomb.y), False);
+  // An oddity that is kept: with this and its removal a Bomb pays its value twice.
+  pushPopup(effectX(bomb.column), effectY(bomb.y), bomb.value);
+  const bool fruitCocktail = blast(row, column);
+  settlePieces();
+  if (!fruitCocktail) return;
+  pushMessage("Fruit cocktail bonus!  5000 points");
+  payScore(fruitPoints);
+  fruitize();
+}
 
 }  // namespace glonks

@@ -40,7 +40,7 @@ TEST_F(GenerationTest, DrawPicksTheHighestSlotWhoseRangeHoldsIt) {
   }
   entry(12, "Music").variety = 1;
   fake::queueDraw(4, 10);
-  spawnMusicNote();
+  dropNamed("Music");
   EXPECT_EQ(stateOf(fallingPieces.back()), "Music 4 0 1 0");
   EXPECT_EQ(fallingPieces.back().imageIndex, 11);
   compactFalling();

@@ -1,0 +1,110 @@
+#include "game/playloop.h"
+
+#include "game/gametick.h"
+#include "game/model.h"
+#include "present/counters.h"
+#include "present/display.h"
+#include "present/effectdrawing.h"
+#include "present/fielddrawing.h"
+#include "present/keys.h"
+#include "present/music.h"
+#include "present/tickerdrawing.h"
+#include "rules/falling.h"
+#include "rules/generation.h"
+#include "rules/timedpieces.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/log.h"
+
+namespace glonks {
+namespace {
+
+// Fruit that can't be loaded gives the screen back in the middle of a frame. What is left of the
+// pass keeps away from it.
+bool isScreenGone() { return !dd; }
+
+void runAll(const std::vector<Statement>& statements, Runner run) {
+  for (const Statement statement : statements) run(statement);
+}
+
+// The order within a frame is part of the rules. An oddity that is kept: the background is laid
+// after the Flip, so the first frame lies on the loading screen and the first after a pause on its
+// line.
+void runFrame(const LoopMode& mode, i32& nextFrame) {
+  stepRules(mode.run);
+  if (isScreenGone()) return;
+  drawMovingThings(mode.run);
+  runAll(mode.texts, mode.run);
+  mode.run([] { primarySurface->Flip(nullptr, flipWait); });
+  nextFrame = gameTick() + framePeriod;
+  mode.run(layPlate);
+  runAll(mode.behindFrame, mode.run);
+  mode.run(layFrame);
+  runAll(mode.endOfFrame, mode.run);
+}
+
+// Counted from now, with no making up.
+void payTimePoints() {
+  if (nextPointsTick >= gameTick()) return;
+  nextPointsTick = gameTick() + timePointsPeriod;
+  payScore(timePoints);
+}
+
+// A pass's last steps: the song's title and end, the system's messages, the pause when the game has
+// lost the screen.
+void endPass(Runner run) {
+  if (isScreenGone()) return;
+  run(showSongLine);
+  run(letMessagesThrough);
+  run([] {
+    if (dd->TestCooperativeLevel() != 0 && paused == False) togglePause();
+  });
+}
+
+}  // namespace
+
+void runPlainly(Statement statement) { statement(); }
+
+void stepRules(Runner run) {
+  run(movePieces);
+  if (pendingSpawns > 0) {
+    // An oddity that is kept: the count is taken before the first spawn, and what these spawns
+    // queue themselves is lost.
+    for (i16 left = pendingSpawns; left > 0; --left) run(spawnPiece);
+    pendingSpawns = 0;
+  }
+  run(compactFalling);
+  run(scanPieces);
+}
+
+void drawMovingThings(Runner run) {
+  run(drawField);
+  run(drawPointer);
+  run(drawItems);
+  if (impactsUpper > -1) run(drawImpacts);
+  if (zapsUpper > -1) run(drawZaps);
+  if (scorePopupsUpper > -1) run(drawPopups);
+  if (tickerUpper > -1) run(drawTicker);
+}
+
+void runLoop(const LoopMode& mode) {
+  logStep("play - initializing variables");
+  gameOver = False;
+  i32 nextSpawn = gameTick() + firstSpawnDelay;
+  i32 nextFrame = gameTick();
+  lastKeyTick = gameTick();
+  nextPointsTick = gameTick() + timePointsPeriod;
+  pendingSpawns = 0;
+  logStep("play - entering main loop");
+
+  while (gameOver != True) {
+    if (nextSpawn < gameTick()) {
+      mode.run(mode.spawn);
+      nextSpawn = gameTick() + spawnInterval;
+    }
+    if (nextFrame < gameTick()) runFrame(mode, nextFrame);
+    payTimePoints();
+    endPass(mode.run);
+  }
+}
+
+}  // namespace glonks
