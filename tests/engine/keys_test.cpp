@@ -60,6 +60,8 @@ TEST_F(KeysTest, GateIsShutFor150MillisecondsAfterAnyKeyButN) {
 }
 
 TEST_F(KeysTest, ItemKeysSpendTheStockOfAFreestyleGame) {
+  loadPieces();
+  fake::useGenerator();
   for (i16 slot = 0; slot < 4; ++slot) {
     itemStock.fill(1);
     modeName = "Other";
