@@ -39,6 +39,17 @@ class TempFolder : public ::testing::Test {
     }
   }
 
+  // Links to the single files of one of the game's folders, so that some can be taken out and
+  // others put in.
+  void ownFolderOfLinks(const std::string& part) const {
+    namespace fs = std::filesystem;
+    fs::remove(folder / part);
+    fs::create_directory(folder / part);
+    for (const auto& file : fs::directory_iterator(fs::path(GLONKS_GAME_FOLDER) / part)) {
+      fs::create_symlink(file.path(), folder / part / file.path().filename());
+    }
+  }
+
   // Bytes of a game path, as they are.
   static std::string bytesOf(const std::string& path) {
     std::ifstream file(nativePath(path), std::ios::binary);

@@ -15,6 +15,7 @@ class BoardTest : public EngineTest {
 
   BoardTest() {
     loadPieces();
+    clearItems(tMode);
     bank = bTypeLeft = pendingSpawns = 0;
   }
 

@@ -17,7 +17,12 @@ u32 lastSong = 0;
 class ListedBuffer : public DirectSoundBuffer {
  public:
   explicit ListedBuffer(std::string name) : name_(std::move(name)) {}
-  void Play(i32 /*flags*/) override { fake::sounds.push_back(name_); }
+  void Play(i32 /*flags*/) override {
+    if (fake::brokenSamples.count(name_) != 0) {
+      throw RuntimeError(ErrorNumber::serviceFailed, "The sound " + name_ + " fails.");
+    }
+    fake::sounds.push_back(name_);
+  }
   void Stop() override { fake::sounds.push_back("stop " + name_); }
 
  private:
@@ -41,6 +46,7 @@ namespace fake {
 
 void resetSound() {
   sounds.clear();
+  brokenSamples.clear();
   samplesLoaded.clear();
   songsOpened.clear();
   brokenSongs.clear();
