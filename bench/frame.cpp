@@ -7,28 +7,41 @@
 #include <QPainter>
 #include <array>
 #include <cstdlib>
+#include <memory>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "game/loadresources.h"
 #include "game/model.h"
 #include "game/resources.h"
 #include "game/text.h"
+#include "present/counters.h"
 #include "present/display.h"
+#include "present/effectdrawing.h"
 #include "present/fielddrawing.h"
 #include "present/keyedpicture.h"
 #include "present/services/directsound.h"
+#include "present/ticker.h"
+#include "present/tickerdrawing.h"
+#include "shell/menucontrols.h"
 #include "storage/paths.h"
 
 // One full frame composed three ways, in one run: by the game's own surfaces, by the same blits
 // made plainly with SDL, and with a QPainter on a QImage. bench_frame [--benchmark...] <game
 // folder>
 //
-// A frame: black, the plate stretched, the frame picture keyed, 70 pieces keyed, the pointer, and
-// three texts (score, level title, song). The other two have their texts drawn before.
+// The plain frame: black, the plate stretched, the frame picture keyed, 70 pieces keyed, the
+// pointer, and three texts (score, level title, song). With effects, as when much goes off at once:
+// frogs behind the frame picture, and after the pointer counters, impacts, zaps, popups and the
+// ticker, of which all but the counters are at other places in each frame. SDL and Qt have their
+// texts drawn before.
 namespace {
 
 using namespace glonks;
+
+// The scene, for all three ways.
 
 struct Line {
   i32 x, y;
@@ -36,15 +49,80 @@ struct Line {
 };
 const std::vector<Line> lines = {
     {83, 45, "12345"}, {315, 33, "Slow start"}, {80, 723, "Band - Song"}};
+const std::vector<Line> counters = {{300, 33, "3 x "}, {400, 33, "3 x "}, {500, 33, "3 x "},
+                                    {600, 33, "3 x "}, {795, 33, "3 x "}, {895, 33, "3 x "}};
 constexpr i32 kinds = 17;
 constexpr std::array<const char*, kinds> pictures = {
     "glonk_01", "glonk_02", "glonk_03", "glonk_04", "rock_01",      "rock_02",
     "rock_03",  "slammer",  "bomb",     "bauble",   "diamond",      "calculator_01",
     "gorgon",   "shifter",  "money",    "music",    "calculator_02"};
+const std::string announcement = "PYTHAGOREANBONUS2500";
+
+constexpr Rect plateArea{81, 80, 934, 690};
+constexpr i32 frogCount = 12;
+constexpr i32 frogKinds = 5;
+constexpr i32 frogSize = 100;
+constexpr i32 popupCount = 10;
+constexpr i32 popupFrames = 40;
+constexpr i32 effectOrigin = 190;  // from effect coordinates to the screen
+constexpr std::array<i16, 3> impactAges = {60, 160, 260};
+constexpr std::array<i16, 3> zapAges = {5, 30, 55};
+constexpr i32 letterPitch = 50;
+constexpr i32 tickerTop = 365;
+constexpr i32 tickerStart = 350;
+constexpr i32 tickerStep = 14;
+constexpr i32 tickerFrames = 50;
 
 i32 kindAt(i32 row, i32 column) { return (row * 7 + column * 3) % kinds; }
 
-std::string fileOf(const std::string& path) { return nativePath(path).string(); }
+i32 frogX(i32 frog) { return 90 + 65 * frog; }
+i32 frogY(i32 frog) { return 90 + 140 * (frog % 4); }
+
+i16 columnIn(i32 number) { return static_cast<i16>(number % columnCount); }
+i16 floorIn(i32 number) { return floorOf(static_cast<i16>(number % rowCount)); }
+
+Impact impactAt(std::size_t impact, i32 number) {
+  const i32 place = number + 4 * static_cast<i32>(impact);
+  return {effectX(columnIn(place)), effectY(floorIn(place)), impactAges[impact]};
+}
+
+Rect areaOf(const Impact& impact) {
+  const i32 half = impact.age / 2;
+  const i32 x = impact.x + effectOrigin;
+  const i32 y = impact.y + effectOrigin;
+  return {x - half, y - half, x + half, y + half};
+}
+
+// Three of each direction, one of each age.
+constexpr i32 zapCount = 6;
+Zap zapAt(i32 zap, i32 number) {
+  const i32 place = number + 3 * zap;
+  return {flagOf(zap % 2 == 0), zapAges[static_cast<std::size_t>(zap / 2)],
+          static_cast<i16>(cellPitch * columnIn(place) + 100),
+          static_cast<i16>(floorIn(place) + fieldTop)};
+}
+
+Rect areaOf(const Zap& zap) {
+  const i32 half = zap.age / 2;
+  if (zap.horizontal == True) {
+    return {zap.x - 15, zap.y + 40 - half, zap.x + 70, zap.y + 40 + half};
+  }
+  return {zap.x + 40 - half, zap.y, zap.x + 40 + half, zap.y + 95};
+}
+
+i16 pointsOf(i32 popup) { return static_cast<i16>(100 * (popup + 1)); }
+
+ScorePopup popupAt(i32 popup, i32 number) {
+  const i16 start = effectY(floorIn(popup % 3));
+  return {effectX(columnIn(popup)), static_cast<i16>(start - 10 * (number % popupFrames)),
+          pointsOf(popup)};
+}
+
+// Where a letter is seen in a frame; those that reach the left edge are gone.
+i32 letterX(std::size_t letter, i32 number) {
+  return tickerStart - tickerStep * (number % tickerFrames) +
+         letterPitch * static_cast<i32>(letter);
+}
 
 // Ours.
 
@@ -54,10 +132,11 @@ void setUpOurs() {
   backBuffer = std::make_shared<DirectDrawSurface7>(1024, 768);
   backBuffer->SetForeColor(RGB(255, 255, 255));
   backBuffer->SetFont({"Times New Roman", 12});
+  addItem(tMode, "Freestyle");
+  setText(tMode, "Freestyle");
+  loadPictures();
   SurfaceDesc desc;
   plateSurface = dd->CreateSurfaceFromFile("\\themes\\Cells\\plate_01.bmp", desc);
-  frameSurface = loadKeyedPicture("frame", desc);
-  pointerSurface = loadKeyedPicture("pointer", desc);
   for (std::size_t slot = 0; slot < pictures.size(); ++slot) {
     pieceCatalog[slot].surface = loadKeyedPicture(pictures[slot], desc);
   }
@@ -70,6 +149,38 @@ void setUpOurs() {
       cell.y = floorOf(row);
     }
   }
+  itemStock.fill(3);
+  bank = 3;
+  notesCollected = 3;
+}
+
+void drawLines() {
+  for (const Line& line : lines) backBuffer->DrawText(line.x, line.y, line.text, False);
+}
+
+void drawFrogs() {
+  for (i32 frog = 0; frog < frogCount; ++frog) {
+    const i32 x = frogX(frog);
+    const i32 y = frogY(frog);
+    backBuffer->Blt({x, y, x + frogSize, y + frogSize},
+                    frogPictures[static_cast<std::size_t>(frog % frogKinds)],
+                    {0, 0, frogSize, frogSize}, bltKeyed);
+  }
+}
+
+// The game's lists as they are before the frame is drawn.
+void setEffects(i32 number) {
+  impacts.clear();
+  for (std::size_t i = 0; i < impactAges.size(); ++i) impacts.push_back(impactAt(i, number));
+  zaps.clear();
+  for (i32 i = 0; i < zapCount; ++i) zaps.push_back(zapAt(i, number));
+  scorePopups.clear();
+  for (i32 i = 0; i < popupCount; ++i) scorePopups.push_back(popupAt(i, number));
+  tickerLines.clear();
+  for (std::size_t i = 0; i < announcement.size(); ++i) {
+    tickerLines.push_back(
+        {glyphFor(announcement[i]), static_cast<i16>(letterX(i, number) + tickerStep)});
+  }
 }
 
 void composeOurs(benchmark::State& state) {
@@ -78,120 +189,295 @@ void composeOurs(benchmark::State& state) {
     layFrame();
     drawField();
     drawPointer();
-    for (const Line& line : lines) backBuffer->DrawText(line.x, line.y, line.text, False);
+    drawLines();
     benchmark::DoNotOptimize(backBuffer->pixels());
   }
 }
 
-// The same blits with SDL's own routines.
-
-SDL_Surface* loadSdl(const std::string& path, bool keyed) {
-  SDL_Surface* file = SDL_LoadBMP(fileOf(path).c_str());
-  SDL_Surface* surface = SDL_ConvertSurfaceFormat(file, SDL_PIXELFORMAT_RGB888, 0);
-  SDL_FreeSurface(file);
-  SDL_SetSurfaceBlendMode(surface, SDL_BLENDMODE_NONE);
-  if (keyed) SDL_SetColorKey(surface, SDL_TRUE, SDL_MapRGB(surface->format, 255, 255, 255));
-  return surface;
+void composeOursEffects(benchmark::State& state) {
+  i32 number = 0;
+  for (auto _ : state) {
+    setEffects(number++);
+    layPlate();
+    drawFrogs();
+    layFrame();
+    drawField();
+    drawPointer();
+    drawItems();
+    drawImpacts();
+    drawZaps();
+    drawPopups();
+    drawTicker();
+    drawLines();
+    benchmark::DoNotOptimize(backBuffer->pixels());
+  }
 }
 
-void composeSdl(benchmark::State& state) {
-  SDL_Surface* target = SDL_CreateRGBSurfaceWithFormat(0, 1024, 768, 32, SDL_PIXELFORMAT_RGB888);
-  SDL_Surface* plate = loadSdl("\\themes\\Cells\\plate_01.bmp", false);
-  SDL_Surface* frame = loadSdl("\\images\\frame.bmp", true);
-  SDL_Surface* pointer = loadSdl("\\images\\pointer.bmp", true);
-  std::vector<SDL_Surface*> pieces;
-  for (const char* name : pictures) {
-    pieces.push_back(loadSdl(std::string("\\images\\") + name + ".bmp", true));
+// The same blits on an easel: a class with the type Picture, load and write to make pictures,
+// begin and end around a frame, lay for the background, draw, and stretch.
+
+std::string fileOf(const std::string& path) { return nativePath(path).string(); }
+
+template <typename Easel>
+class Painting {
+ public:
+  void composePlain() {
+    layBackground();
+    easel_.draw(0, 0, frame_);
+    drawPieces();
+    drawTexts(lines, lineTexts_);
+    easel_.end();
   }
-  TTF_Init();
-  TTF_Font* font = TTF_OpenFontDPI(
-      "/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf", 12, 96, 96);
-  std::vector<SDL_Surface*> texts;
-  for (const Line& line : lines) {
-    texts.push_back(font == nullptr ? nullptr
-                                    : TTF_RenderUTF8_Blended(font, line.text.c_str(),
-                                                             SDL_Color{255, 255, 255, 255}));
+
+  void composeEffects(i32 number) {
+    layBackground();
+    for (i32 frog = 0; frog < frogCount; ++frog) {
+      easel_.draw(frogX(frog), frogY(frog), frogs_[static_cast<std::size_t>(frog % frogKinds)]);
+    }
+    easel_.draw(0, 0, frame_);
+    drawPieces();
+    drawTexts(counters, counterTexts_);
+    drawStretched(number);
+    drawClimbing(number);
+    drawLetters(number);
+    drawTexts(lines, lineTexts_);
+    easel_.end();
   }
-  for (auto _ : state) {
-    SDL_FillRect(target, nullptr, 0);
-    SDL_Rect plateRect{81, 80, 853, 610};
-    SDL_BlitScaled(plate, nullptr, target, &plateRect);
-    SDL_BlitSurface(frame, nullptr, target, nullptr);
+
+  auto pixels() { return easel_.pixels(); }
+
+ private:
+  using Picture = typename Easel::Picture;
+
+  Picture image(const std::string& name) { return easel_.load("\\images\\" + name + ".bmp", true); }
+
+  template <typename List, typename Make>
+  static std::vector<Picture> madeFrom(const List& list, Make make) {
+    std::vector<Picture> made;
+    made.reserve(std::size(list));
+    for (const auto& element : list) made.push_back(make(element));
+    return made;
+  }
+
+  std::vector<Picture> written(const std::vector<Line>& texts) {
+    return madeFrom(texts, [&](const Line& line) { return easel_.write(line.text); });
+  }
+
+  std::vector<Picture> writtenPoints() {
+    std::vector<Picture> made;
+    made.reserve(popupCount);
+    for (i32 i = 0; i < popupCount; ++i) made.push_back(easel_.write(signedNumber(pointsOf(i))));
+    return made;
+  }
+
+  void layBackground() {
+    easel_.begin();
+    easel_.lay(plateArea, plate_);
+  }
+
+  void drawPieces() {
     for (i32 row = 0; row < rowCount; ++row) {
       for (i32 column = 0; column < columnCount; ++column) {
-        SDL_Rect place{80 + 85 * column, 600 - 85 * row, 90, 90};
-        SDL_BlitSurface(pieces[static_cast<std::size_t>(kindAt(row, column))], nullptr, target,
-                        &place);
+        easel_.draw(80 + 85 * column, 600 - 85 * row,
+                    pieces_[static_cast<std::size_t>(kindAt(row, column))]);
       }
     }
-    SDL_Rect pointerPlace{10, 620, 70, 45};
-    SDL_BlitSurface(pointer, nullptr, target, &pointerPlace);
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      SDL_Rect place{lines[i].x, lines[i].y, 0, 0};
-      if (texts[i] != nullptr) SDL_BlitSurface(texts[i], nullptr, target, &place);
+    easel_.draw(10, 620, pointer_);
+  }
+
+  void drawTexts(const std::vector<Line>& places, const std::vector<Picture>& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) easel_.draw(places[i].x, places[i].y, texts[i]);
+  }
+
+  void drawStretched(i32 number) {
+    for (std::size_t i = 0; i < impactAges.size(); ++i) {
+      easel_.stretch(areaOf(impactAt(i, number)), explosion_);
     }
-    benchmark::DoNotOptimize(target->pixels);
+    for (i32 i = 0; i < zapCount; ++i) {
+      const Zap zap = zapAt(i, number);
+      easel_.stretch(areaOf(zap), zap.horizontal == True ? zapH_ : zapV_);
+    }
+  }
+
+  void drawClimbing(i32 number) {
+    for (i32 i = 0; i < popupCount; ++i) {
+      const ScorePopup popup = popupAt(i, number);
+      easel_.draw(popup.x + effectOrigin, popup.y + effectOrigin,
+                  popupTexts_[static_cast<std::size_t>(i)]);
+    }
+  }
+
+  void drawLetters(i32 number) {
+    for (std::size_t i = 0; i < letters_.size(); ++i) {
+      const i32 x = letterX(i, number);
+      if (x > 0) easel_.draw(x, tickerTop, letters_[i]);
+    }
+  }
+
+  Easel easel_;
+  Picture plate_ = easel_.load("\\themes\\Cells\\plate_01.bmp", false);
+  Picture frame_ = image("frame");
+  Picture pointer_ = image("pointer");
+  Picture explosion_ = image("explosion");
+  Picture zapH_ = image("zap_h");
+  Picture zapV_ = image("zap_v");
+  std::vector<Picture> pieces_ = madeFrom(pictures, [&](const char* name) { return image(name); });
+  std::vector<Picture> frogs_ =
+      madeFrom(std::string("12345"), [&](char kind) { return image(std::string("frog0") + kind); });
+  std::vector<Picture> letters_ =
+      madeFrom(announcement, [&](char letter) { return image(std::string(1, letter)); });
+  std::vector<Picture> lineTexts_ = written(lines);
+  std::vector<Picture> counterTexts_ = written(counters);
+  std::vector<Picture> popupTexts_ = writtenPoints();
+};
+
+template <typename Easel>
+void composePlain(benchmark::State& state) {
+  Painting<Easel> painting;
+  for (auto _ : state) {
+    painting.composePlain();
+    benchmark::DoNotOptimize(painting.pixels());
   }
 }
 
-// With a QPainter.
-
-QImage loadQt(const std::string& path, bool keyed) {
-  QImage image(QString::fromStdString(fileOf(path)));
-  if (!keyed) return image.convertToFormat(QImage::Format_RGB32);
-  image = image.convertToFormat(QImage::Format_ARGB32);
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixel(x, y) == 0xFFFFFFFFU) image.setPixel(x, y, 0);
-    }
+template <typename Easel>
+void composeEffects(benchmark::State& state) {
+  Painting<Easel> painting;
+  i32 number = 0;
+  for (auto _ : state) {
+    painting.composeEffects(number++);
+    benchmark::DoNotOptimize(painting.pixels());
   }
-  return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-void composeQt(benchmark::State& state) {
-  QImage target(1024, 768, QImage::Format_RGB32);
-  const QImage plate = loadQt("\\themes\\Cells\\plate_01.bmp", false);
-  const QImage frame = loadQt("\\images\\frame.bmp", true);
-  const QImage pointer = loadQt("\\images\\pointer.bmp", true);
-  std::vector<QImage> pieces;
-  for (const char* name : pictures) {
-    pieces.push_back(loadQt(std::string("\\images\\") + name + ".bmp", true));
+// SDL's own routines.
+
+class SdlEasel {
+ public:
+  struct Deleter {
+    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+  };
+  using Picture = std::unique_ptr<SDL_Surface, Deleter>;
+
+  SdlEasel() {
+    TTF_Init();
+    font_ = TTF_OpenFontDPI("/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf", 12,
+                            96, 96);
   }
-  std::vector<QImage> texts;
-  for (const Line& line : lines) {
-    QImage text(200, 24, QImage::Format_ARGB32_Premultiplied);
-    text.fill(Qt::transparent);
-    QPainter painter(&text);
+  ~SdlEasel() { TTF_CloseFont(font_); }
+  SdlEasel(const SdlEasel&) = delete;
+  SdlEasel& operator=(const SdlEasel&) = delete;
+
+  Picture load(const std::string& path, bool keyed) {
+    const Picture file = checked(SDL_LoadBMP(fileOf(path).c_str()));
+    Picture picture = checked(SDL_ConvertSurfaceFormat(file.get(), SDL_PIXELFORMAT_RGB888, 0));
+    SDL_SetSurfaceBlendMode(picture.get(), SDL_BLENDMODE_NONE);
+    if (keyed) {
+      SDL_SetColorKey(picture.get(), SDL_TRUE, SDL_MapRGB(picture->format, 255, 255, 255));
+    }
+    return picture;
+  }
+
+  Picture write(const std::string& text) {
+    return checked(TTF_RenderUTF8_Blended(font_, text.c_str(), SDL_Color{255, 255, 255, 255}));
+  }
+
+  void begin() { SDL_FillRect(target_.get(), nullptr, 0); }
+  void end() {}
+  void lay(const Rect& area, const Picture& picture) { stretch(area, picture); }
+
+  void draw(i32 x, i32 y, const Picture& picture) {
+    SDL_Rect place{x, y, 0, 0};
+    SDL_BlitSurface(picture.get(), nullptr, target_.get(), &place);
+  }
+
+  void stretch(const Rect& area, const Picture& picture) {
+    SDL_Rect place{area.left, area.top, area.right - area.left, area.bottom - area.top};
+    SDL_BlitScaled(picture.get(), nullptr, target_.get(), &place);
+  }
+
+  const void* pixels() const { return target_->pixels; }
+
+ private:
+  static Picture checked(SDL_Surface* surface) {
+    if (surface == nullptr) throw std::runtime_error(SDL_GetError());
+    return Picture(surface);
+  }
+
+  Picture target_ =
+      checked(SDL_CreateRGBSurfaceWithFormat(0, 1024, 768, 32, SDL_PIXELFORMAT_RGB888));
+  TTF_Font* font_;
+};
+
+// A QPainter.
+
+class QtEasel {
+ public:
+  using Picture = QImage;
+
+  Picture load(const std::string& path, bool keyed) {
+    QImage image(QString::fromStdString(fileOf(path)));
+    if (image.isNull()) throw std::runtime_error(path);
+    if (!keyed) return image.convertToFormat(QImage::Format_RGB32);
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) == 0xFFFFFFFFU) image.setPixel(x, y, 0);
+      }
+    }
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  }
+
+  Picture write(const std::string& text) {
+    const QFont font("Times New Roman", 12);
+    const QString shown = QString::fromStdString(text);
+    const QFontMetrics metrics(font);
+    QImage picture(metrics.horizontalAdvance(shown) + 2, 24, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
     painter.setPen(Qt::white);
-    painter.setFont(QFont("Times New Roman", 12));
-    painter.drawText(0, 18, QString::fromStdString(line.text));
-    texts.push_back(text);
+    painter.setFont(font);
+    painter.drawText(0, metrics.ascent(), shown);
+    return picture;
   }
-  for (auto _ : state) {
-    QPainter painter(&target);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(target.rect(), Qt::black);
-    painter.drawImage(QRect(81, 80, 853, 610), plate);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.drawImage(0, 0, frame);
-    for (i32 row = 0; row < rowCount; ++row) {
-      for (i32 column = 0; column < columnCount; ++column) {
-        painter.drawImage(80 + 85 * column, 600 - 85 * row,
-                          pieces[static_cast<std::size_t>(kindAt(row, column))]);
-      }
-    }
-    painter.drawImage(10, 620, pointer);
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      painter.drawImage(lines[i].x, lines[i].y, texts[i]);
-    }
-    painter.end();
-    benchmark::DoNotOptimize(target.bits());
+
+  void begin() {
+    painter_.begin(&target_);
+    painter_.setCompositionMode(QPainter::CompositionMode_Source);
+    painter_.fillRect(target_.rect(), Qt::black);
   }
-}
+  void end() { painter_.end(); }
+
+  void lay(const Rect& area, const Picture& picture) {
+    stretch(area, picture);
+    painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  }
+
+  void draw(i32 x, i32 y, const Picture& picture) { painter_.drawImage(x, y, picture); }
+
+  void stretch(const Rect& area, const Picture& picture) {
+    painter_.drawImage(QRect(area.left, area.top, area.right - area.left, area.bottom - area.top),
+                       picture);
+  }
+
+  const void* pixels() { return target_.bits(); }
+
+ private:
+  QImage target_{1024, 768, QImage::Format_RGB32};
+  QPainter painter_;
+};
+
+void composeSdl(benchmark::State& state) { composePlain<SdlEasel>(state); }
+void composeQt(benchmark::State& state) { composePlain<QtEasel>(state); }
+void composeSdlEffects(benchmark::State& state) { composeEffects<SdlEasel>(state); }
+void composeQtEffects(benchmark::State& state) { composeEffects<QtEasel>(state); }
 
 BENCHMARK(composeOurs)->Unit(benchmark::kMillisecond);
 BENCHMARK(composeSdl)->Unit(benchmark::kMillisecond);
 BENCHMARK(composeQt)->Unit(benchmark::kMillisecond);
+BENCHMARK(composeOursEffects)->Unit(benchmark::kMillisecond);
+BENCHMARK(composeSdlEffects)->Unit(benchmark::kMillisecond);
+BENCHMARK(composeQtEffects)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
