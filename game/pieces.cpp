@@ -10,12 +10,7 @@ namespace glonks {
 namespace {
 
 constexpr i16 pieceChannel = 3;
-constexpr i16 lastPieceSlot = 18;
-
-// By slot.
-constexpr std::array<const char*, lastPieceSlot + 1> fileIds = {
-    "1980", "0018", "1281", "9234", "4742", "9338", "0634", "6768", "5156", "0876",
-    "8624", "8752", "2137", "5493", "7147", "7045", "9201", "6337", "8269"};
+constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
 
 // The fields in the order of the file. Gives the picture's name.
 std::string readPiece(i16 channel, Piece& piece) {
@@ -58,8 +53,8 @@ Piece loadPiece(const std::string& fileId) {
 
 void loadPieces() {
   pieceCatalogUpper = lastPieceSlot;
-  for (std::size_t slot = 0; slot < fileIds.size(); ++slot) {
-    pieceCatalog[slot] = loadPiece(fileIds[slot]);
+  for (std::size_t slot = 0; slot < pieceFileIds.size(); ++slot) {
+    pieceCatalog[slot] = loadPiece(pieceFileIds[slot]);
   }
   for (i16 slot = 0; slot <= lastPieceSlot; ++slot) {
     pieceCatalog[static_cast<std::size_t>(slot)].imageIndex = slot;

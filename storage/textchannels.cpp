@@ -29,6 +29,8 @@ struct Channel {
   std::string name;
   fs::path target;  // the file that the player knows
   fs::path beside;  // mode replace: the new file while it is being written
+  i32 line = 1;     // mode input: where the next character stands
+  int taken = EOF;  // mode input: the last byte taken
 };
 
 std::map<i16, Channel> channels;
@@ -48,7 +50,7 @@ Channel& opened(i16 channel, bool forInput) {
   return found->second;
 }
 
-int nextByte(Channel& channel) {
+int rawByte(Channel& channel) {
   const int byte = std::fgetc(channel.file);
   if (byte == EOF && std::ferror(channel.file) != 0) {
     fail(ErrorNumber::fileNotFound, channel.name, "can't be read" + because(errno));
@@ -56,8 +58,15 @@ int nextByte(Channel& channel) {
   return byte;
 }
 
+int nextByte(Channel& channel) {
+  const int byte = rawByte(channel);
+  if (byte == '\r' || (byte == '\n' && channel.taken != '\r')) ++channel.line;
+  channel.taken = byte;
+  return byte;
+}
+
 int peekByte(Channel& channel) {
-  const int byte = nextByte(channel);
+  const int byte = rawByte(channel);
   if (byte != EOF) std::ungetc(byte, channel.file);
   return byte;
 }
@@ -138,6 +147,8 @@ const std::string& channelName(i16 channel) {
 }
 
 bool endOfFile(i16 channel) { return peekByte(opened(channel, true)) == EOF; }
+
+i32 channelLine(i16 channel) { return opened(channel, true).line; }
 
 std::string readLine(i16 channel, const std::string& fieldName) {
   Channel& from = opened(channel, true);

@@ -30,6 +30,9 @@ const std::string& channelName(i16 channel);
 // Whether an input channel has nothing left to read.
 bool endOfFile(i16 channel);
 
+// The line, counted from 1, of the next character of an input channel.
+i32 channelLine(i16 channel);
+
 // The rest of the current line, without its end. Raises inputPastEnd at the end of the file, naming
 // what should have stood there as `fieldName`, if it has a name.
 std::string readLine(i16 channel, const std::string& fieldName = "");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -21,7 +22,7 @@ class TempFolder : public ::testing::Test {
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string(info->test_suite_name()) + "." + info->name();
     for (char& c : name) c = c == '/' ? '_' : c;
-    folder = fs::temp_directory_path() / ("glonks." + name);
+    folder = fs::temp_directory_path() / ("glonks." + std::to_string(getpid()) + "." + name);
     fs::remove_all(folder);
     fs::create_directories(folder);
     for (const char* part : {"images", "sounds", "music", "themes", "init", "levels"}) {

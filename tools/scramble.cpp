@@ -7,10 +7,12 @@
 #include "game/errors.h"
 #include "storage/paths.h"
 #include "storage/scrambledfiles.h"
+#include "tools/levelcheck.h"
 
 // Scrambles the plain data files into the game's folder: scramble <data> <game folder>.
+// Faults in them are printed, a line for each, and then nothing is written.
 // Files that belong to the player (scores, bank, open levels) are written only where they are
-// missing, so that a rebuild takes nothing away.
+// missing or empty, so that a rebuild takes nothing away.
 namespace {
 
 namespace fs = std::filesystem;
@@ -25,9 +27,17 @@ void scrambleFolder(const fs::path& data, const std::string& folder) {
   for (const fs::directory_entry& entry : fs::directory_iterator(data / folder)) {
     const std::string name = entry.path().filename().string();
     const fs::path target = programFolder() / folder / name;
-    if (isPlayersOwn(name) && fs::exists(target)) continue;
+    if (isPlayersOwn(name) && fs::exists(target) && !fs::is_empty(target)) continue;
     scrambleFile(entry.path().string(), "\\" + folder + "\\" + name);
   }
+}
+
+bool printFaults(const fs::path& data) {
+  const std::vector<LevelFault> faults = checkLevels(data);
+  for (const LevelFault& fault : faults) {
+    std::cerr << fault.file.string() << ':' << fault.line << ": " << fault.text << '\n';
+  }
+  return !faults.empty();
 }
 
 }  // namespace
@@ -38,9 +48,10 @@ int main(int argc, char** argv) {
     return EXIT_FAILURE;
   }
   try {
+    const fs::path data = fs::absolute(argv[1]);
+    if (printFaults(data)) return EXIT_FAILURE;
     setProgramFolder(fs::absolute(argv[2]));
     makeKeys(keySeed, keyDrawArgument, keyScale);
-    const fs::path data = fs::absolute(argv[1]);
     scrambleFolder(data, "init");
     scrambleFolder(data, "levels");
   } catch (const std::exception& error) {

@@ -199,7 +199,12 @@ i32 DirectDrawSurface7::BltColorFill(const Rect& to, i32 color) {
   const Rect area = clipped(wholeIfZero(to), width_, height_);
   for (i32 y = area.top; y < area.bottom; ++y) {
     u32* row = &pixels_[static_cast<std::size_t>(y) * width_];
-    std::fill(row + area.left, row + std::max(area.left, area.right), static_cast<u32>(color));
+    const auto length = static_cast<std::size_t>(std::max(0, area.right - area.left));
+    if (color == 0) {  // each frame begins so, and this way takes half its time off
+      std::memset(row + area.left, 0, length * sizeof(u32));
+    } else {
+      std::fill_n(row + area.left, length, static_cast<u32>(color));
+    }
   }
   changed();
   return 0;

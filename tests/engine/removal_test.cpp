@@ -36,6 +36,7 @@ TEST_F(RemovalTest, EveryKindPaysInItsWay) {
   act(removePiece, "4/...2/...3/...1", 0, 0);
   heard();
   removePiece(1, 3);
+  EXPECT_EQ(cellAt(1, 3).name, "");
   EXPECT_EQ(outcome(), "4/...2//...1 |  | 10 | ");  // nothing has settled
   EXPECT_EQ((Numbers{scorePopups[0].x, scorePopups[0].y}), (Numbers{185, 365}));
 }
@@ -106,7 +107,7 @@ TEST_F(RemovalTest, BombTakesItsBombableNeighboursAndAllFourGlonksMakeFruit) {
        false},
       {"B1/23", 1, 0, {}, " |  | 7 7 10 10 10 | pop01", false},
       {"........3/........12/.........B", 0, 9, {}, " | 38 | 7 7 10 10 | pop01", false},
-      {"12/3B.4", 0, 1, {}, "...4 |  | 7 7 10 10 10 | pop01", false},
+      {"R2/3B4.1", 0, 1, {}, "....1 |  | 7 7 10 10 20 10 | pop01", false},
       {"12/3BP4", 0, 1, {0.6F, 0.6F}, " |  | 7 7 10 0 10 10 10 | pop01 pop01", false},
       {"121/3B4", 0, 1, {}, " |  | 7 7 10 10 10 10 10 | pop01", true},
   };

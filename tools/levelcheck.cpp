@@ -1,0 +1,312 @@
+#include "tools/levelcheck.h"
+
+#include <array>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "game/errors.h"
+#include "game/model.h"
+#include "game/pieces.h"
+#include "game/text.h"
+#include "storage/textchannels.h"
+
+namespace glonks {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr i16 plainChannel = 5;
+constexpr std::size_t draws = 1000;
+constexpr std::size_t longestTitle = 636;  // what the ticker takes
+const std::string freestyleFile = "2193";
+
+struct Field {
+  std::string name;
+  std::string text;
+  i32 line = 0;
+  std::optional<i32> number;  // none if the text is no number that the field takes
+};
+
+// An Arcade level, as other files need to know it.
+struct Level {
+  std::string title;
+  Field rewardName;
+  Field reward;
+};
+
+// Counts, the score and minutes: -1 for what is off, none for what can't be told.
+struct Goals {
+  Field piece;
+  Field score;
+  Field limit;
+  Field survive;
+  Field avoid;
+  Field land;
+};
+
+using Entry = std::array<Field, 4>;
+using Kind = std::pair<std::string, i32>;  // name and variety
+using Marks = std::array<bool, draws>;
+
+class LevelCheck {
+ public:
+  explicit LevelCheck(const fs::path& data) : init_(data / "init"), folder_(data / "levels") {}
+
+  std::vector<LevelFault> run() {
+    for (const char* id : pieceFileIds) readPlain(init_ / id, &LevelCheck::readKind);
+    std::set<fs::path> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+      files.insert(entry.path());
+    }
+    for (const fs::path& file : files) readPlain(file, &LevelCheck::checkLevel);
+    readPlain(init_ / "6537", &LevelCheck::checkOpenLevels);
+    for (const auto& [name, level] : levels_) checkLinks(name, level);
+    return faults_;
+  }
+
+ private:
+  void fault(i32 line, const std::string& text) { faults_.push_back({file_, line, text}); }
+  void fault(const Field& field, const std::string& trouble) {
+    fault(field.line, field.name + " " + trouble);
+  }
+
+  // A failure in reading is a fault too.
+  void readPlain(const fs::path& file, void (LevelCheck::*read)()) {
+    file_ = file;
+    const ChannelGuard guard(plainChannel);
+    try {
+      openChannel(plainChannel, file.string(), ChannelMode::input, file.filename().string());
+      (this->*read)();
+    } catch (const RuntimeError& error) {
+      fault(isChannelOpen(plainChannel) ? channelLine(plainChannel) : 1, error.what());
+    }
+  }
+
+  using Reader = std::string (*)(i16 channel, const std::string& fieldName);
+  static Field textOf(const std::string& name, Reader read = readField) {
+    const i32 line = channelLine(plainChannel);
+    return {name, read(plainChannel, name), line, {}};
+  }
+
+  template <typename Whole = i16>
+  Field toNumber(Field field) {
+    using Limits = std::numeric_limits<Whole>;
+    const double number = leadingNumber(field.text);
+    if (!isNumber(field.text) || std::floor(number) != number) {
+      fault(field, "isn't a whole number.");
+    } else if (number < Limits::min() || number > Limits::max()) {
+      fault(field, "is out of range.");
+    } else {
+      field.number = static_cast<i32>(number);
+    }
+    return field;
+  }
+
+  void readKind() {
+    const Field name = textOf("name");
+    if (name.text.empty()) fault(name, "is empty.");
+    names_.insert(name.text);
+    const Field variety = toNumber(textOf("variety"));
+    if (variety.number) kinds_.insert({name.text, *variety.number});
+  }
+
+  void checkLevel() {
+    const std::string name = file_.filename().string();
+    Level* level = name == freestyleFile ? nullptr : &levels_[name];
+    const Field interval = toNumber<i32>(textOf("spawnInterval"));
+    if (interval.number && *interval.number < 1) fault(interval, "isn't above 0.");
+    if (level != nullptr) checkHead(*level);
+    checkEntries();
+  }
+
+  void checkHead(Level& level) {
+    const Field title = textOf("levelTitle", readLine);
+    level.title = title.text;
+    if (trimmed(title.text).empty()) fault(title, "is empty.");
+    if (title.text.size() > longestTitle) fault(title, "is longer than 636 characters.");
+    level.rewardName = textOf("rewardLevelName", readLine);
+    level.reward = toNumber(textOf("rewardLevelFile", readLine));
+    // The order of the file.
+    checkTogether({readCounted("goalPieceCount", "goalPieceName"), readScore(),
+                   readTimer("limitMinutes", "limitSeconds"),
+                   readTimer("surviveMinutes", "surviveSeconds"),
+                   readCounted("avoidLeft", "avoidName"), readCounted("landLeft", "landName")});
+  }
+
+  // A goal of so many pieces of a name.
+  Field readCounted(const std::string& countName, const std::string& pieceName) {
+    Field count = toNumber(textOf(countName));
+    const Field piece = textOf(pieceName);
+    if (count.number == -1) {
+      const bool mayBeNothing = pieceName == "goalPieceName";
+      const bool none = piece.text == noName || (mayBeNothing && piece.text == "Nothing");
+      if (!none) fault(piece, "isn't -1, but " + countName + " is.");
+    } else if (count.number) {
+      if (*count.number < 1) fault(count, "is neither -1 nor above 0.");
+      if (names_.count(piece.text) == 0) fault(piece, "\"" + piece.text + "\" is no piece's name.");
+    }
+    return count;
+  }
+
+  Field readScore() {
+    Field score = toNumber<i32>(textOf("goalScore"));
+    if (score.number && *score.number < 1 && *score.number != -1) {
+      fault(score, "is neither -1 nor above 0.");
+    }
+    return score;
+  }
+
+  Field readTimer(const std::string& minutesName, const std::string& secondsName) {
+    Field minutes = toNumber(textOf(minutesName));
+    const Field seconds = toNumber(textOf(secondsName));
+    if (!minutes.number || !seconds.number) {
+      minutes.number.reset();
+    } else if (*minutes.number != -1 || *seconds.number != -1) {
+      const bool inLine = *seconds.number >= 0 && *seconds.number <= 59;
+      if (!inLine) fault(seconds, "isn't from 0 to 59, nor -1 with " + minutesName + " of -1.");
+      if (*minutes.number < 1) {
+        fault(minutes, "isn't above 0, nor -1 with " + secondsName + " of -1.");
+        minutes.number.reset();
+      } else if (*minutes.number == 1 && *seconds.number == 0) {
+        fault(minutes, "of 1 with " + secondsName + " of 0 switches no timer on.");
+      }
+    }
+    return minutes;
+  }
+
+  // Without a survival timer a level is won as soon as no goal is open, and with one as soon as a
+  // goal is; the two timers share their minute, and the lines of the last two lie over each other.
+  void checkTogether(const Goals& goals) {
+    const auto& [piece, score, limit, survive, avoid, land] = goals;
+    for (const Field* field : {&piece, &score, &limit, &survive, &avoid, &land}) {
+      if (!field->number) return;
+    }
+    const bool open = *piece.number != -1 || *score.number != -1 || *land.number != -1;
+    if (*survive.number == -1) {
+      if (!open) fault(piece.line, "there is no piece, score or land goal and no survival timer.");
+    } else {
+      if (open) fault(survive.line, "a survival timer and a piece, score or land goal.");
+      if (*limit.number != -1) fault(survive.line, "a survival timer and a time limit.");
+    }
+    if (*avoid.number != -1 && *land.number != -1) {
+      fault(land.line, "an avoid goal and a land goal.");
+    }
+  }
+
+  void checkEntries() {
+    std::set<Kind> named;
+    Marks free;
+    free.fill(true);
+    i32 line = channelLine(plainChannel);
+    while (!endOfFile(plainChannel)) {
+      line = channelLine(plainChannel);
+      if (const auto entry = readEntry()) checkEntry(*entry, named, free);
+    }
+    faultRuns(line, free, "no piece for the ", "");
+  }
+
+  // None for a line of more or fewer than four fields, behind which the game would read nonsense.
+  std::optional<Entry> readEntry() {
+    const i32 line = channelLine(plainChannel);
+    const auto ended = [&] { return endOfFile(plainChannel) || channelLine(plainChannel) != line; };
+    Entry entry = {textOf("name")};
+    std::size_t count = 1;
+    for (const char* name : {"variety", "spawnLow", "spawnHigh"}) {
+      if (!ended()) entry[count++] = textOf(name);
+    }
+    if (count == entry.size() && ended()) return entry;
+    if (!ended()) readLine(plainChannel);
+    fault(line, "a spawn entry has to be a line of four fields.");
+    return {};
+  }
+
+  void checkEntry(const Entry& entry, std::set<Kind>& named, Marks& free) {
+    const i32 line = entry[0].line;
+    const Field variety = toNumber(entry[1]);
+    const Field low = toNumber(entry[2]);
+    const Field high = toNumber(entry[3]);
+    if (variety.number) {
+      const Kind kind(entry[0].text, *variety.number);
+      const std::string shown = "\"" + kind.first + "\" of variety " + plainNumber(kind.second);
+      if (kinds_.count(kind) == 0) fault(line, "there is no piece " + shown + ".");
+      if (!named.insert(kind).second) fault(line, shown + " has an entry before.");
+    }
+    if (!low.number || !high.number) return;
+    if (*low.number < 0 || *high.number < *low.number || *high.number >= i32{draws}) {
+      fault(line, "spawnLow and spawnHigh are no range from 0 to 999.");
+      return;
+    }
+    Marks twice = {};
+    const auto last = static_cast<std::size_t>(*high.number);
+    for (auto draw = static_cast<std::size_t>(*low.number); draw <= last; ++draw) {
+      twice[draw] = !std::exchange(free[draw], false);
+    }
+    faultRuns(line, twice, "", " are taken by an entry before");
+  }
+
+  // A fault for each unbroken run of marked draws.
+  void faultRuns(i32 line, const Marks& marked, const std::string& before,
+                 const std::string& behind) {
+    for (std::size_t low = 0; low < draws; ++low) {
+      if (!marked[low]) continue;
+      std::size_t end = low;
+      while (end < draws && marked[end]) ++end;
+      const std::string run = std::to_string(low) + " to " + std::to_string(end - 1);
+      fault(line, before + "draws " + run + behind + ".");
+      low = end;
+    }
+  }
+
+  // Title and number by which another file names an Arcade level.
+  void checkLink(const Field& title, const Field& number) {
+    if (!number.number) return;
+    const std::string name = plainNumber(*number.number);
+    const auto found = levels_.find(name);
+    if (found == levels_.end()) {
+      fault(number, "is " + name + ", but there is no such Arcade level.");
+    } else if (found->second.title != title.text) {
+      fault(title, "isn't \"" + found->second.title + "\", the title of level " + name + ".");
+    }
+  }
+
+  void checkOpenLevels() {
+    while (!endOfFile(plainChannel)) {
+      const Field title = textOf("level name", readLine);
+      const Field number = toNumber(textOf("level number", readLine));
+      checkLink(title, number);
+      reach(number);
+    }
+  }
+
+  // Marks the level of a number and all that winning opens from there on.
+  void reach(const Field& number) {
+    if (!number.number) return;
+    const auto found = levels_.find(plainNumber(*number.number));
+    if (found == levels_.end() || !reached_.insert(found->first).second) return;
+    reach(found->second.reward);
+  }
+
+  void checkLinks(const std::string& name, const Level& level) {
+    file_ = folder_ / name;
+    checkLink(level.rewardName, level.reward);
+    if (reached_.count(name) == 0) fault(1, "no level that can be reached opens this one.");
+  }
+
+  fs::path init_;
+  fs::path folder_;
+  fs::path file_;  // the file that faults are about
+  std::vector<LevelFault> faults_;
+  std::set<std::string> names_;
+  std::set<Kind> kinds_;
+  std::map<std::string, Level> levels_;  // Arcade levels by file name
+  std::set<std::string> reached_;        // the file names of those that can be opened
+};
+
+}  // namespace
+
+std::vector<LevelFault> checkLevels(const fs::path& data) { return LevelCheck(data).run(); }
+
+}  // namespace glonks

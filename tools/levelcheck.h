@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "game/types.h"
+
+namespace glonks {
+
+// What is wrong with a plain data file, and the line, counted from 1, where it shows.
+struct LevelFault {
+  std::filesystem::path file;
+  i32 line = 0;
+  std::string text;
+};
+
+// All faults of the level files and of the list of the first open levels in the folder of the plain
+// data files, and of the piece files as far as levels name them. Reads on channel 5. What can't be
+// read is a fault too; only a folder that isn't there raises std::filesystem::filesystem_error.
+std::vector<LevelFault> checkLevels(const std::filesystem::path& data);
+
+}  // namespace glonks
