@@ -42,7 +42,7 @@ void win() {
 }
 
 // Once the level is decided, the game ends when the ticker is empty. An oddity that is kept: with a
-// survival timer the test runs the other way.
+// survival timer the test runs the other way, so that an open goal wins such a level at once.
 void testOutcome() {
   if (levelOver == True) {
     if (tickerUpper < 0) gameOver = True;

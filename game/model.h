@@ -181,6 +181,9 @@ inline u32 tickBase = 0;                 // what gameTick takes off the clock, m
 // Adds points, which may be negative, to `score` at once.
 inline void payScore(i64 points) { score = held<i32>(score + points); }
 
+// Takes one off a count; it stays at the end of its 16 bits.
+inline void countDown(i16& count) { count = held<i16>(i32{count} - 1); }
+
 // What "no goal" reads in the level fields.
 inline const std::string noName = "-1";
 

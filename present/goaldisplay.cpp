@@ -23,14 +23,15 @@ void drawCount(i32 y, const std::string& name, i16 count) {
   drawLine(y, name + "s:  " + signedNumber(count));
 }
 
-// Seconds left of the running minute: 59 to 0, and below when it is over.
+// Seconds left of the running minute: 59 to 0, and below when it is over. An oddity that is kept:
+// the seconds of the level's file only switch a timer on; each minute begins at 59.
 i32 secondsLeft() {
   const double passed = (static_cast<double>(gameTick()) - minuteStart) / msPerSecond;
   return 59 - static_cast<i32>(std::floor(passed));
 }
 
-// An oddity that is kept: a timer runs out only in a frame of its last second. One that starts
-// below its last minute, or whose last second passes without a frame, never does.
+// An oddity that is kept: a timer runs out only in a frame of its last second. One that begins with
+// no minutes, or whose last second passes without a frame, never does.
 bool hasRunOut(i16 minutes) { return secondsLeft() == 0 && minutes == 0; }
 
 // An oddity that is kept: both timers of a level share minuteStart, so the time limit, which is

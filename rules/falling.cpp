@@ -64,7 +64,7 @@ void landPiece(i16 index, i16 column) {
     if (cell.occupied != False) continue;
     cell.occupied = True;
     static_cast<Piece&>(cell) = fallingPieces[static_cast<std::size_t>(index)];
-    if (landOn == True && cell.tallied == False && cell.name == landName) --landLeft;
+    if (landOn == True && cell.tallied == False && cell.name == landName) countDown(landLeft);
     cell.tallied = True;
     return;
   }

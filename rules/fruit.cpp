@@ -16,7 +16,8 @@ namespace {
 constexpr i32 fruitValue = 100;  // points more
 constexpr std::array<const char*, 4> fruitPictures = {"apple", "orange", "cherry", "grapes"};
 
-// Pieces are drawn by the catalogue's surface alone; all others that they hold follow it.
+// Only the catalogue's pictures are ever drawn. An oddity that is kept: every Glonk of the game
+// gets one of its own, from the file again.
 void turnToFruit(Piece& piece) {
   if (piece.name != "Glonk") return;
   const auto fruit = static_cast<std::size_t>(piece.variety) - 1;  // by variety, from 1

@@ -23,8 +23,8 @@ constexpr i32 fruitPoints = 5000;
 
 Cell& cellAt(i32 row, i32 column) { return playfield[static_cast<std::size_t>(row)][column]; }
 
-void countDown(i16& count) { count = held<i16>(i32{count} - 1); }
-
+// An oddity that is kept: a Bauble that is overdue, but hasn't been scanned yet, counts for no
+// piece goal, though it queues its pieces.
 void countForGoals(const Cell& cell) {
   if (cell.name == avoidName) countDown(avoidLeft);
   if (cell.name != goalPieceName) return;
@@ -75,7 +75,8 @@ bool isOnBoard(i32 row, i32 column) {
   return row >= 0 && row < rowCount && column >= 0 && column < columnCount;
 }
 
-// Removes the bombable neighbours of a cell. Gives whether Glonks of all varieties were among them.
+// Removes the bombable neighbours of a cell, another Bomb as a plain piece that doesn't explode.
+// Gives whether Glonks of all varieties were among them.
 bool blast(i16 row, i16 column) {
   std::array<bool, glonkVarieties> taken = {};
   for (i32 i = row - 1; i <= row + 1; ++i) {

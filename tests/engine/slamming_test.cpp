@@ -38,7 +38,7 @@ TEST_F(SlammingTest, RunsBetweenTwoSlammersGoAndLongOnesPayABonus) {
       {"S1.S", "S1.S", "", "", 0},
       {"S12S", "S12S", "", "", 0},
       {"SCcS", "SCcS", "", "", 0},
-      {"S1HS", "S1HS", "", "", 0},
+      {"SGHS", "SGHS", "", "", 0},
       {"SRRS", "SRRS", "", "", 0},
       {"S/R/S", "S/R/S", "", "", 0},
       // Runs that share a Slammer or a piece are removed once, and counted as often as found.
@@ -74,11 +74,15 @@ TEST_F(SlammingTest, ZapsLieOverTheirPiecesAndWhatStoodOnThemDrops) {
   EXPECT_EQ(heard(), "slam01 slam01");
 }
 
-TEST_F(SlammingTest, SlammerThatTheScanHasSeenClosesItsRunThoughItIsGone) {
+TEST_F(SlammingTest, SlammerThatTheScanHasSeenClosesItsRunThoughItIsGoneAndFreeCellsOpenIt) {
   lay(".1S");
   checkSlams({{0, 0}, {2, 0}}, 1);
   EXPECT_EQ(board() + popups(), "10 0");
-  lay("S.");  // but nothing is found where the first place behind the low end is free
+  lay("S111S");
+  cellAt(0, 2).occupied = False;  // what a free cell still holds doesn't count
+  scanPieces();
+  EXPECT_EQ(board(), "S1.1S");
+  lay("S.");
   checkSlams({{0, 0}, {1, 0}}, 1);
   EXPECT_EQ(board(), "S");
 }
