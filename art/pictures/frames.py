@@ -75,6 +75,11 @@ def lip(ctx, ground, accent):
     stroke(ctx, box(x0 - 1, y0 - 1, x1 - x0 + 3, y1 - y0 + 3), (.02, .02, .04), 2)
 
 
+def goal_panel(ctx, ground):
+    """Arcade's lines of goals: three of them reach down over the lip."""
+    sloped(ctx, box(71, 17, 233, 63, 9), darker(ground, .82), darker(ground, .7), 2, lighter(ground, .2), diagonal=False)
+
+
 def frame(name):
     ground_text, accent_text, ornament, figures, counters = MOODS[name]
     ground, accent = rgb(ground_text), rgb(accent_text)
@@ -91,6 +96,8 @@ def frame(name):
         well = box(left, y, right - left, height, 12)
         sloped(ctx, well, darker(ground, .78), darker(ground, .6), 2, lighter(ground, .14), diagonal=False)
     lip(ctx, ground, accent)
+    if name == "frameA":
+        goal_panel(ctx, ground)
     for i, draw in enumerate(figures):
         pieces.place(ctx, draw, 954, 100 + i * 98, 62, .62)
     for x, draw in counters + COUNTED:
