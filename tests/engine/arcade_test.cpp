@@ -1,5 +1,6 @@
 #include "game/arcade.h"
 
+#include "rules/timedpieces.h"
 #include "shell/playbutton.h"
 #include "storage/log.h"
 #include "tests/engine/boardtest.h"
@@ -157,6 +158,11 @@ TEST_F(ArcadeTest, LoopGoesOnAfterAStepThatFails) {
 TEST_F(ArcadeTest, FruitThatCantBeLoadedEndsTheGameCleanly) {
   ownFolderOfLinks("images");
   std::filesystem::remove(folder / "images" / "cherry.bmp");
+  lay("121/3B4");
+  gameOver = False;
+  cellAt(0, 1).expiry = 0;
+  scanPieces();
+  EXPECT_FALSE(fake::windowOpen || dd);  // gone at once, which needs the game to be over by then
   ownFolderOfLinks("levels");
   putBytes("\\plain", "90000\nTitle\nNext\n1\n-1,-1,9000,-1,-1,-1,-1,-1,-1,-1,-1\nGlonk,1,0,999\n");
   scrambleFile("\\plain", "\\levels\\7");
@@ -185,8 +191,8 @@ TEST_F(ArcadeTest, FruitThatCantBeLoadedEndsTheGameCleanly) {
   const std::size_t first = log.find("error occured in fruitize function.   ");
   const std::size_t second = log.find("53, The file \"\\images\\cherry.bmp\"");
   EXPECT_TRUE(first < second && second < log.find("destroy - shutting down directx")) << log;
-  EXPECT_EQ(linesInLog("error occured"), 2U);
-  EXPECT_EQ(linesInLog("destroy - shutting down directx"), 4U);
+  EXPECT_EQ(linesInLog("error occured"), 3U);
+  EXPECT_EQ(linesInLog("destroy - shutting down directx"), 5U);
 }
 
 }  // namespace glonks

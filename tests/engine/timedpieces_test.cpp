@@ -47,6 +47,10 @@ TEST_F(TimedPiecesTest, PiecesActOnceTheirTimersHaveRunOut) {
     EXPECT_EQ(outcome(), after) << before;
     EXPECT_TRUE(fake::draws.empty()) << before;
   }
+  layDue("BS", 'B');
+  cellAt(0, 0).isSlammer = True;  // goes off before it is seen as a Slammer
+  scanPieces();
+  EXPECT_EQ(outcome(), ".S |  | 0 0 | pop01");
   EXPECT_EQ(pendingSpawns, 3);  // from the Bauble bombed, and none from the one that left by itself
 }
 
