@@ -112,23 +112,4 @@ TEST_F(FreestyleTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {
   EXPECT_NEAR(static_cast<double>(tickBase), 200, 2);
 }
 
-// A whole game without a player, from fixed seeds: it is lost by itself, and always at the same
-// point with the same board.
-TEST_F(FreestyleTest, UnattendedGameIsLostTheSameWayEachTime) {
-  Names outcomes;
-  for (i32 run = 0; run < 2; ++run) {
-    fake::resetClock();
-    fake::useGenerator();
-    initVariables();
-    setUpGame();
-    fake::sounds.clear();
-    fake::messages = [] { fake::clockNow += 27; };
-    play();
-    outcomes.push_back(field() + std::to_string(score) + " " + std::to_string(gameTick()));
-    EXPECT_EQ(std::count(fake::sounds.begin(), fake::sounds.end(), "_gameover"), 1);
-  }
-  EXPECT_EQ(outcomes[0], outcomes[1]);
-  EXPECT_LT(fallingPiecesUpper, 10);  // those at rest have left the list
-}
-
 }  // namespace glonks
