@@ -113,6 +113,9 @@ TEST_F(EffectsTest, TickerRunsFromTheRightAndDropsItsLettersWhole) {
   EXPECT_EQ(painted(), (Numbers{6, 365, 56, 415}));
   drawTicker();
   EXPECT_EQ((Numbers{tickerUpper, painted()[2]}), (Numbers{-1, -1}));
+  pushMessage(" I");  // the second letter comes to 0 exactly
+  for (i32 i = 0; i < 75; ++i) drawTicker();
+  EXPECT_EQ(tickerUpper, -1);
   pushMessage(std::string(700, 'x'));
   EXPECT_EQ((Numbers{tickerUpper, tickerLines.back().x}), (Numbers{635, 32750}));
   pushMessage("");
@@ -143,12 +146,15 @@ TEST_F(EffectsTest, ParadeSendsTwentyFrogsDownTheScreenAndStops) {
   frogs[0].x = 8;    // goes on at the very edge
   frogs[1].x = 7;    // leaves by the left edge and starts anew
   frogs[2].y = 762;  // leaves by the bottom
+  frogs[3].picture = 4;
+  frogs[3].pictureCount = 9;
   fake::queueDraw(1999, 2000);
   fake::queueDraw(3, 2000);
   fake::queueDraw(2, 200);
   frogParade();
   EXPECT_EQ((Numbers{frogs[0].x, frogs[1].x, frogs[1].y, frogs[2].x, frogs[2].y}),
             (Numbers{0, 1999, 0, 3, 0}));
+  EXPECT_EQ(frogs[3].picture, 5);
   fake::clockNow += 1;  // the bonus is over: no sound, no new start
   frogParade();
   EXPECT_EQ(frogs[0].x, -8);
@@ -232,9 +238,13 @@ TEST_F(EffectsTest, GoalLinesStandInTheirOrderAndMoveUp) {
     drawGoals();
     EXPECT_TRUE(shows(goals.lines)) << goals.land << goals.avoid << goals.piece << goals.goal;
   }
+  minuteStart += 1000;
+  score = 20;
+  drawGoals();
+  EXPECT_TRUE(shows({{85, 26, "Score:  20/ 0"}, {85, 41, "Time: 12:10"}}));
   levelOver = True;  // the time line goes, the counts stay
   drawGoals();
-  EXPECT_TRUE(shows({{85, 26, "Score: -7/ 0"}}));
+  EXPECT_TRUE(shows({{85, 26, "Score:  20/ 0"}}));
   levelOver = False;
 }
 
