@@ -1,7 +1,7 @@
 #include "present/effects.h"
 
+#include "game/playloop.h"
 #include "present/applause.h"
-#include "present/counters.h"
 #include "present/effectdrawing.h"
 #include "present/frogparade.h"
 #include "present/goaldisplay.h"
@@ -180,6 +180,7 @@ TEST_F(EffectsTest, CountersFollowTheModePicked) {
   notesCollected = 8;
   bTypeLeft = 31;
   const Line kept[] = {{795, 33, "5 x "}, {895, 33, "8 x "}};
+  pointerSurface = nullptr;
   addItem(tMode, "Freestyle");
   addItem(tMode, "Arcade");
   addItem(tMode, "B-Type");
@@ -193,7 +194,7 @@ TEST_F(EffectsTest, CountersFollowTheModePicked) {
                                      {{300, 33, "31 x "}, kept[0], kept[1]}};
   for (i32 mode = 0; mode < 3; ++mode) {
     tMode.listIndex = mode;
-    drawItems();
+    drawMovingThings(runPlainly);
     EXPECT_TRUE(shows(lines[mode])) << mode;
   }
 }

@@ -88,15 +88,18 @@ TEST_F(FreestyleTest, OneSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenCollected
   EXPECT_EQ(notes, (Numbers{1, 0, 0, 0}));
 }
 
-TEST_F(FreestyleTest, FrogBonusStartsAbove60000AndOnce) {
+TEST_F(FreestyleTest, FrogBonusStartsAbove60000AndOnceWithItsParadeBehindTheFrame) {
   score = 60000;
   i32 until = 0;
-  playFor(200, [&](i32 now) {
+  frameSurface = std::make_shared<DirectDrawSurface7>(1024, 768);  // covers all
+  playFor(400, [&](i32 now) {
     if (now == 100) score = 60001;
-    if (now == 140) until = std::exchange(frogBonusUntil, 1);
+    if (now == 140) until = std::exchange(frogBonusUntil, gameTick() - 2970);
   });
   EXPECT_EQ(until - start_, 60000 + 105);
-  EXPECT_EQ(frogBonusUntil, 1);
+  EXPECT_EQ(frogBonusUntil - start_, 140 - 2970);
+  EXPECT_EQ(frogsUpper, 1);  // one more frame, until 3 seconds after the bonus
+  for (i32 x = 0; x < 1024; ++x) EXPECT_EQ(backBuffer->pixel(x, 50), 0U) << x;
 }
 
 TEST_F(FreestyleTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {
