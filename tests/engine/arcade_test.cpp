@@ -131,6 +131,11 @@ TEST_F(ArcadeTest, DecidedLevelStaysAsItIs) {
     playLevel(during);
     EXPECT_EQ(levelWon, won);
   }
+  score = goalScore;
+  avoidLeft = 1;
+  EXPECT_EQ(goalsMet(), True);
+  avoidLeft = 0;
+  EXPECT_EQ(goalsMet(), False);
 }
 
 // In the middle of a game a picture can't be stretched any more and sounds fail: every other step
