@@ -138,6 +138,20 @@ TEST_F(ArcadeTest, DecidedLevelStaysAsItIs) {
   EXPECT_EQ(goalsMet(), False);
 }
 
+TEST_F(ArcadeTest, TitleStandsAtTheTop) {
+  DirectDrawSurface7 text(1024, 768);
+  text.SetFont(gameFont);
+  text.SetForeColor(RGB(255, 255, 255));
+  text.DrawText(315, 33, "I", False);
+  const auto* lit = std::find(text.pixels(), text.pixels() + 1024 * 768, RGB(255, 255, 255));
+  fake::watchedX = static_cast<i32>(lit - text.pixels()) % 1024;
+  fake::watchedY = static_cast<i32>(lit - text.pixels()) / 1024;
+  levelTitle = "I";
+  frameSurface = nullptr;
+  playLevel([](i32) {});
+  EXPECT_EQ(fake::watchedPixel, RGB(255, 255, 255));
+}
+
 // In the middle of a game a picture can't be stretched any more and sounds fail: every other step
 // of the loop goes on.
 TEST_F(ArcadeTest, LoopGoesOnAfterAStepThatFails) {

@@ -93,13 +93,17 @@ TEST_F(FreestyleTest, FrogBonusStartsAbove60000AndOnceWithItsParadeBehindTheFram
   i32 until = 0;
   frameSurface = std::make_shared<DirectDrawSurface7>(1024, 768);  // covers all
   playFor(400, [&](i32 now) {
-    if (now == 100) score = 60001;
-    if (now == 140) until = std::exchange(frogBonusUntil, gameTick() - 2970);
+    if (now == 100) {
+      score = 60001;
+      fake::draws = {0.1F, 0, 0, 0, 0.9F};  // a frog at 200
+    }
+    if (now != 140) return;
+    for (i32 x = 0; x < 1024; ++x) EXPECT_EQ(backBuffer->pixel(x, 50), 0U) << x;
+    until = std::exchange(frogBonusUntil, gameTick() - 2970);
   });
   EXPECT_EQ(until - start_, 60000 + 105);
   EXPECT_EQ(frogBonusUntil - start_, 140 - 2970);
   EXPECT_EQ(frogsUpper, 1);  // one more frame, until 3 seconds after the bonus
-  for (i32 x = 0; x < 1024; ++x) EXPECT_EQ(backBuffer->pixel(x, 50), 0U) << x;
 }
 
 TEST_F(FreestyleTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {

@@ -12,7 +12,7 @@ namespace glonks::fake {
 // Samples by the name of their file, "_pop01", in the order of playing; "stop _moverow" where one
 // was cut off.
 inline std::vector<std::string> sounds;
-inline std::set<std::string> brokenSamples;      // playing one of these raises an error
+inline std::set<std::string> brokenSamples;     // playing one of these raises an error
 inline std::vector<std::string> samplesLoaded;  // in the order of loading
 
 inline std::vector<std::string> songsOpened;  // paths, also of songs that failed
