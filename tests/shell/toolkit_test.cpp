@@ -1,24 +1,18 @@
-#include <gtest/gtest.h>
+#include "shell/toolkit/toolkit.h"
+
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QLockFile>
-#include <QMainWindow>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
-#include "shell/toolkit/toolkit.h"
 #include "tests/shell/later.h"
 
 // The controls of a form, driven through their real widgets by keys and mouse.
@@ -29,8 +23,9 @@ namespace {
 using Runs = std::vector<std::string>;
 Runs runs;  // what the handlers have told
 
-// Two pages, the second hidden.
+// Two pages, the second hidden. Sheets live on, as the forms of a program do.
 struct Sheet {
+  Sheet();
   Frame front, back;
   ComboBox combo;
   ListBox list, backList;
@@ -41,99 +36,68 @@ struct Sheet {
 };
 Sheet* sheet = nullptr;
 
-void at(Control& control, i32 left, i32 top, i32 width, i32 height, i16 tabIndex = -1) {
-  control.left = left;
-  control.top = top;
-  control.width = width;
-  control.height = height;
-  control.tabIndex = tabIndex;
+Sheet::Sheet() {
+  i16 place = 0;  // one below the other
+  for (Control* control :
+       std::initializer_list<Control*>{&bar, &list, &combo, &backList, &label, &spot}) {
+    *control = {150, 990 * place, 3000, 900, place};
+    ++place;
+  }
+  static_cast<Control&>(front) = {0, 0, 6000, 6000};
+  static_cast<Control&>(back) = {0, 0, 6000, 6000, -1, False, False};
+  for (Choices* choices : std::initializer_list<Choices*>{&combo, &list}) {
+    for (const char* item : {"one", "two", "three"}) addItem(*choices, item);
+  }
+  combo.click = [] { runs.push_back("combo " + textOf(sheet->combo)); };
+  list.click = [] { runs.push_back("list " + textOf(sheet->list)); };
+  bar.scroll = [] { runs.push_back("scroll"); };
+  bar.change = [] { runs.push_back("change " + std::to_string(sheet->bar.value)); };
+  spot.click = [] { runs.push_back("spot"); };
+  spot.hint = "Play";
+  back.controls.assign({&backList});
+  front.controls = {&spot, &combo, &list, &label, &bar};
+  form.controls = {&front, &back};
+  form.width = form.height = 6000;
 }
 
-// Sheets live on, as the forms of a program do.
-Sheet* makeSheet() {
-  auto* made = new Sheet;
-  at(made->front, 0, 0, 4500, 4500);
-  at(made->back, 0, 0, 4500, 4500);
-  at(made->bar, 150, 3600, 3000, 255, 0);
-  at(made->list, 150, 600, 3000, 1500, 1);
-  at(made->combo, 150, 150, 3000, 315, 2);
-  at(made->backList, 150, 600, 3000, 1500, 3);
-  at(made->label, 150, 2250, 3000, 450);
-  at(made->spot, 3300, 150, 900, 450);
-  for (const char* item : {"one", "two", "three"}) {
-    addItem(made->combo, item);
-    addItem(made->list, item);
-  }
-  made->combo.click = [] { runs.push_back("combo " + textOf(sheet->combo)); };
-  made->list.click = [] { runs.push_back("list " + textOf(sheet->list)); };
-  made->bar.scroll = [] { runs.push_back("scroll"); };
-  made->bar.change = [] { runs.push_back("change " + std::to_string(sheet->bar.value)); };
-  made->spot.click = [] { runs.push_back("spot"); };
-  made->spot.hint = "Play";
-  made->back.visible = False;
-  made->back.enabled = False;
-  made->back.controls.assign({&made->backList});
-  made->front.controls = {&made->spot, &made->combo, &made->list, &made->label, &made->bar};
-  made->form.controls = {&made->front, &made->back};
-  made->form.caption = "Sheet " + std::to_string(reinterpret_cast<std::uintptr_t>(made));
-  made->form.width = 4500;
-  made->form.height = 4500;
-  return made;
+QWidget* showSheet() {
+  sheet = new Sheet;
+  runs.clear();
+  showForm(sheet->form);
+  QApplication::setActiveWindow(shownWindow());
+  letMessagesThrough();
+  return shownWindow();
 }
 
-class Toolkit : public testing::Test {
- protected:
-  void SetUp() override {
-    sheet = makeSheet();
-    runs.clear();
-    showForm(sheet->form);
-    for (QWidget* top : QApplication::topLevelWidgets()) {
-      if (top->windowTitle().toStdString() == sheet->form.caption) window = top;
-    }
-    ASSERT_NE(window, nullptr);
-    QApplication::setActiveWindow(window);
-    letMessagesThrough();
-  }
-  void TearDown() override { hideForm(sheet->form); }
-
-  template <typename View>
-  View* find(int index = 0) {
-    return window->findChildren<View*>().at(index);
-  }
-  QAbstractButton* spotButton() {
-    for (auto* button : window->findChildren<QAbstractButton*>()) {
-      if (button->accessibleName() == "Play") return button;
-    }
-    return nullptr;
-  }
-  void pressSpotLater() {
-    later([this] { QTest::keyClick(spotButton(), Qt::Key_Space); });
-  }
-  QScrollBar* scrollBar() {  // not one inside a list
-    return find<QComboBox>()->parent()->findChild<QScrollBar*>({}, Qt::FindDirectChildrenOnly);
-  }
-
-  QWidget* window = nullptr;
+struct Toolkit : testing::Test {
+  ~Toolkit() override { hideForm(sheet->form); }
+  QWidget* window = showSheet();
+  QComboBox* combo = window->findChild<QComboBox*>();
+  QListWidget* list = window->findChildren<QListWidget*>().at(0);
+  QListWidget* backList = window->findChildren<QListWidget*>().at(1);
+  QScrollBar* bar =  // not one inside a list
+      combo->parent()->findChild<QScrollBar*>({}, Qt::FindDirectChildrenOnly);
+  QAbstractButton* spot = playButton(window);
 };
 
 TEST_F(Toolkit, showsTheDataAtTheirPlacesAndFollowsTheirChanges) {
   auto* centre = static_cast<QMainWindow*>(window)->centralWidget();
-  const int factor = centre->width() / 300;
-  EXPECT_EQ(centre->size(), QSize(300, 300) * factor);
-  EXPECT_EQ(find<QComboBox>()->geometry(),
-            QRect(10 * factor, 10 * factor, 200 * factor, 21 * factor));
-  EXPECT_EQ(find<QComboBox>()->currentIndex(), -1);
+  const int factor = centre->width() / 400;
+  EXPECT_EQ(centre->size(), QSize(400, 400) * factor);
+  EXPECT_EQ(combo->geometry(), QRect(10 * factor, 132 * factor, 200 * factor, 60 * factor));
+  EXPECT_EQ(combo->currentIndex(), -1);
 
   sheet->label.caption = "caf\xe9 <b>&c";
   sheet->list.listIndex = 2;
   sheet->combo.enabled = False;
   sheet->bar.value = 30;
   letMessagesThrough();
-  EXPECT_EQ(find<QLabel>()->text(), QString::fromUtf8("caf\xc3\xa9 <b>&c"));
-  EXPECT_EQ(find<QLabel>()->textFormat(), Qt::PlainText);
-  EXPECT_TRUE(find<QListWidget>()->item(2)->isSelected());
-  EXPECT_FALSE(find<QComboBox>()->isEnabled());
-  EXPECT_EQ(scrollBar()->value(), 30);
+  const auto* label = window->findChild<QLabel*>();
+  EXPECT_EQ(label->text().toStdString(), "café <b>&c");
+  EXPECT_EQ(label->textFormat(), Qt::PlainText);
+  EXPECT_TRUE(list->item(2)->isSelected());
+  EXPECT_FALSE(combo->isEnabled());
+  EXPECT_EQ(bar->value(), 30);
   EXPECT_TRUE(runs.empty()) << "handlers are for the player's moves";
 
   setText(sheet->list, "two");
@@ -142,88 +106,76 @@ TEST_F(Toolkit, showsTheDataAtTheirPlacesAndFollowsTheirChanges) {
   clearItems(sheet->list);
   letMessagesThrough();
   EXPECT_EQ(runs, (Runs{"list two", "combo three", "change 7"}));
-  EXPECT_EQ(find<QComboBox>()->currentText(), "three");
-  EXPECT_EQ(find<QListWidget>()->count(), 0);
+  EXPECT_EQ(combo->currentText(), "three");
+  EXPECT_EQ(list->count(), 0);
 }
 
-TEST_F(Toolkit, comboRunsForEachPickOfTheSameItemToo) {
-  auto* combo = find<QComboBox>();
+TEST_F(Toolkit, listsAreChosenFromByMouseAndKeys) {
   for (int pick = 0; pick < 2; ++pick) {
     combo->showPopup();
     combo->view()->setCurrentIndex(combo->model()->index(1, 0));
     QTest::keyClick(combo->view(), Qt::Key_Return);
   }
-  EXPECT_EQ(runs, (Runs{"combo two", "combo two"}));
-}
-
-TEST_F(Toolkit, listIsChosenFromByMouseAndKeys) {
-  auto* list = find<QListWidget>();
+  EXPECT_EQ(runs, (Runs{"combo two", "combo two"})) << "for each pick of the same item too";
+  runs.clear();
   list->setFocus();
   EXPECT_TRUE(runs.empty()) << "the focus alone chooses nothing";
   QTest::keyClick(list, Qt::Key_Down);
   const QPoint third = list->visualItemRect(list->item(2)).center();
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, third);
   EXPECT_EQ(runs, (Runs{"list one", "list three"}));
-  EXPECT_EQ(sheet->list.listIndex, 2);
 }
 
 TEST_F(Toolkit, hotSpotIsPressedByMouseAndKeysUnlessDisabled) {
-  QTest::mouseClick(spotButton(), Qt::LeftButton);
+  QTest::mouseClick(spot, Qt::LeftButton);
   for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
-    QTest::keyClick(spotButton(), key);
+    QTest::keyClick(spot, key);
   }
   EXPECT_EQ(runs.size(), 4U);
   sheet->spot.enabled = False;
   letMessagesThrough();
-  QTest::mouseClick(spotButton(), Qt::LeftButton);
+  QTest::mouseClick(spot, Qt::LeftButton);
   EXPECT_EQ(runs.size(), 4U);
 }
 
 TEST_F(Toolkit, scrollBarTellsDragFromOtherMoves) {
-  QScrollBar* bar = scrollBar();
   const QPoint middle(bar->width() / 2, bar->height() / 2);
   QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(4, bar->height() / 2));
   QTest::mouseMove(bar, middle);
-  EXPECT_EQ(runs, Runs{"scroll"});
   const i16 dragged = sheet->bar.value;
-  EXPECT_GT(dragged, 30);
   QTest::mouseRelease(bar, Qt::LeftButton, {}, middle);
   QTest::keyClick(bar, Qt::Key_Right);
+  EXPECT_GT(dragged, 30);
   EXPECT_EQ(runs, (Runs{"scroll", "change " + std::to_string(dragged),
                         "change " + std::to_string(dragged + 1)}));
 }
 
 TEST_F(Toolkit, tabGoesByIndexThenHotSpotsAndOnlyOnThePageShown) {
-  for (QWidget* stop :
-       {static_cast<QWidget*>(scrollBar()), static_cast<QWidget*>(find<QListWidget>()),
-        static_cast<QWidget*>(find<QComboBox>()), static_cast<QWidget*>(spotButton())}) {
+  for (QWidget* stop : std::initializer_list<QWidget*>{bar, list, combo, spot, bar}) {
     EXPECT_EQ(QApplication::focusWidget(), stop);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
-  EXPECT_EQ(QApplication::focusWidget(), scrollBar()) << "round again";
-
-  auto* backList = find<QListWidget>(1);
   EXPECT_FALSE(backList->isVisible() || backList->isEnabled());
   std::swap(sheet->front.visible, sheet->back.visible);
   std::swap(sheet->front.enabled, sheet->back.enabled);
   letMessagesThrough();
   EXPECT_TRUE(backList->isVisible() && backList->isEnabled());
-  EXPECT_FALSE(find<QComboBox>()->isVisible());
+  EXPECT_FALSE(combo->isVisible());
   EXPECT_EQ(QApplication::focusWidget(), backList);
 }
 
 TEST_F(Toolkit, whatHandlersRaiseComesOutOfTheLoopTheyRanIn) {
   sheet->spot.click = [] { throw std::runtime_error("raised"); };
-  pressSpotLater();
-  EXPECT_THROW(runEvents(), std::runtime_error);
-  pressSpotLater();
-  EXPECT_THROW(letMessagesThrough(), std::runtime_error);
+  for (const auto loop : {runEvents, letMessagesThrough}) {
+    later([this] { QTest::keyClick(spot, Qt::Key_Space); });
+    EXPECT_THROW(loop(), std::runtime_error);
+  }
 }
 
 TEST_F(Toolkit, hiddenFormKeepsItsPlaceAndTheCloseBoxRunsUnload) {
   window->move(40, 50);
   hideForm(sheet->form);
-  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(shownWindow(), nullptr);
   showForm(sheet->form);
   EXPECT_EQ(window->pos(), QPoint(40, 50));
   sheet->form.unload = [] { runs.push_back("unload"); };
@@ -232,45 +184,21 @@ TEST_F(Toolkit, hiddenFormKeepsItsPlaceAndTheCloseBoxRunsUnload) {
   EXPECT_EQ(runs, Runs{"unload"});
 }
 
-TEST_F(Toolkit, messageBoxIsClosedByEnterAndEscapeWithOrWithoutAForm) {
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-    QString text;
-    later([&] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      text = box->text();
-      EXPECT_EQ(box->textFormat(), Qt::PlainText);
-      QTest::keyClick(box, key);
-    });
-    messageBox("<b>caf\xe9");
-    EXPECT_EQ(text, QString::fromUtf8("<b>caf\xc3\xa9"));
+TEST_F(Toolkit, dialogsAreAnsweredByKeysWithOrWithoutAForm) {
+  const auto tell = [] { messageBox("<b>caf\xe9"); };
+  const auto ask = [] { return yesNoBox("Really?"); };
+  const auto askName = [] { return inputBox("Name?", 6); };
+  const QString name = QString::fromUtf8("Zoë ☃!too long");
+  for (int round = 0; round < 2; ++round) {
+    answered(Qt::Key_Return, tell);
+    answered(Qt::Key_Escape, tell);
+    EXPECT_EQ(lastMessage, "<b>café");
+    EXPECT_EQ(answered(Qt::Key_Return, ask), True);
+    EXPECT_EQ(answered(Qt::Key_Escape, ask), False);
+    EXPECT_EQ(answered(Qt::Key_Return, askName, name), "Zo\xeb ?!");
+    EXPECT_EQ(answered(Qt::Key_Escape, askName, name), "");
     hideForm(sheet->form);
   }
-}
-
-// Gives `answer` to the dialog that `ask` shows, by keys.
-template <typename Ask>
-auto answered(Ask ask, const std::function<void(QWidget*)>& answer) {
-  later([&] { answer(QApplication::activeModalWidget()); });
-  return ask();
-}
-
-TEST_F(Toolkit, questionsAreAnsweredByKeys) {
-  const auto press = [](Qt::Key key) { return [key](QWidget* box) { QTest::keyClick(box, key); }; };
-  const auto ask = [] { return yesNoBox("Really?"); };
-  EXPECT_EQ(answered(ask, press(Qt::Key_Return)), True);
-  EXPECT_EQ(answered(ask, press(Qt::Key_Escape)), False);
-
-  const auto type = [](Qt::Key end) {
-    return [end](QWidget* box) {
-      auto* line = box->findChild<QLineEdit*>();
-      EXPECT_TRUE(line->text().isEmpty());
-      line->insert(QString::fromUtf8("Zo\u00eb \u2603!too long"));
-      QTest::keyClick(line, end);
-    };
-  };
-  const auto askName = [] { return inputBox("Name?", 6); };
-  EXPECT_EQ(answered(askName, type(Qt::Key_Return)), "Zo\xeb ?!");
-  EXPECT_EQ(answered(askName, type(Qt::Key_Escape)), "");
 }
 
 // What a run of its own, which ends without letting go, gets for the folder.

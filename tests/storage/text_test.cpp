@@ -29,11 +29,10 @@ struct DecimalComma : std::numpunct<char> {
 TEST(Text, NumbersAreReadFromTheLeadingPartInAnyLocale) {
   // Each with its number, and whether it is a number and nothing else.
   const std::tuple<const char*, double, bool> table[] = {
-      {"12", 12, true},     {"-3.25", -3.25, true}, {"+5", 5, true},      {".5", 0.5, true},
-      {"7.", 7, true},      {"1e3", 1000, true},    {"1E-2", 0.01, true}, {" \t4 ", 4, true},
-      {"12abc", 12, false}, {"1e", 1, false},       {"1e+x", 1, false},   {"1.2.3", 1.2, false},
-      {"1,5", 1, false},    {"0x10", 0, false},     {"abc", 0, false},    {"", 0, false},
-      {"-", 0, false},      {".", 0, false},        {"inf", 0, false},    {"1 2", 1, false},
+      {"-3.25", -3.25, true}, {"+5", 5, true},    {".5", 0.5, true},    {"7.", 7, true},
+      {"1E-2", 0.01, true},   {" \t4 ", 4, true}, {"12abc", 12, false}, {"1e", 1, false},
+      {"1.2.3", 1.2, false},  {"1e+x", 1, false}, {"1,5", 1, false},    {"0x10", 0, false},
+      {"", 0, false},         {"-", 0, false},    {".", 0, false},      {"inf", 0, false},
   };
   const std::locale before =
       std::locale::global(std::locale(std::locale::classic(), new DecimalComma));
