@@ -121,8 +121,10 @@ TEST_F(RemovalTest, BombTakesItsBombableNeighboursAndAllFourGlonksMakeFruit) {
 }
 
 TEST_F(RemovalTest, FruitLooksAndPaysLikeFruitEverywhereUntilTheNextGame) {
-  lay("3R1/121/3B4");
-  cellAt(2, 0).variety = 9;  // keeps its looks
+  lay("121/3B4.2");
+  Cell& other = cellAt(0, 4);
+  other.variety = 9;  // no fruit for this one, but the points
+  const Surface looks = other.surface;
   drop(7, "Glonk").variety = 2;
   const u32 plain = entryAt(15).surface->pixel(45, 45);
   explodeBomb(0, 1);
@@ -137,8 +139,8 @@ TEST_F(RemovalTest, FruitLooksAndPaysLikeFruitEverywhereUntilTheNextGame) {
       EXPECT_EQ(entryAt(15 + i).surface->pixel(at, 40), file->pixel(at, 40));
     }
   }
-  EXPECT_EQ(fallingPieces[0].value, 100);
-  EXPECT_TRUE(fallingPieces[0].surface);
+  EXPECT_TRUE(other.value == 110 && other.surface == looks);
+  EXPECT_TRUE(fallingPieces[0].value == 100 && fallingPieces[0].surface);
   lay("121/3B4/....4");
   explodeBomb(1, 1);
   EXPECT_EQ((Numbers{entryAt(16).value, cellAt(0, 4).value}), (Numbers{210, 210}));
