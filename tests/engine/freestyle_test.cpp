@@ -65,16 +65,6 @@ TEST_F(FreestyleTest, FrameTakesInPendingSpawnsShowsTheBoardAndLaysTheNextBackgr
   EXPECT_EQ(backBuffer->pixel(125, 645), static_cast<u32>(RGB(1, 2, 3)));  // no piece yet
 }
 
-TEST_F(FreestyleTest, LevelCoversEachDrawOnceWithEveryKindThatMayDrop) {
-  Numbers kinds(1000);
-  for (const Piece& piece : pieceCatalog) {
-    const bool drops = !piece.name.empty() && piece.name != "BType" && piece.name != "Pin";
-    EXPECT_EQ(piece.spawnHigh != 0, drops) << piece.name;
-    for (i16 draw = piece.spawnLow; drops && draw <= piece.spawnHigh; ++draw) ++kinds.at(draw);
-  }
-  EXPECT_EQ(kinds, Numbers(1000, 1));
-}
-
 TEST_F(FreestyleTest, OneSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenCollected) {
   Numbers notes;
   const std::pair<i32, i32> cases[] = {{1, 8}, {1, 9}, {0, 0}, {2, 0}};
