@@ -18,6 +18,11 @@
 namespace glonks {
 namespace {
 
+constexpr i32 firstSpawnDelay = 500;     // ms after the start of the loop
+constexpr i32 framePeriod = 25;          // ms, counted from the end of the Flip
+constexpr i32 timePointsPeriod = 10000;  // ms
+constexpr i32 timePoints = 3;            // each period
+
 // Fruit that can't be loaded gives the screen back in the middle of a frame. What is left of the
 // pass keeps away from it.
 bool isScreenGone() { return !dd; }

@@ -2,15 +2,8 @@
 
 #include <vector>
 
-#include "game/types.h"
-
 // The loop that the modes play in, with the order of a frame.
 namespace glonks {
-
-inline constexpr i32 firstSpawnDelay = 500;     // ms after the start of the loop
-inline constexpr i32 framePeriod = 25;          // ms, counted from the end of the Flip
-inline constexpr i32 timePointsPeriod = 10000;  // ms
-inline constexpr i32 timePoints = 3;            // each period
 
 // One step of the loop.
 using Statement = void (*)();

@@ -31,7 +31,6 @@ struct Collected {
   std::vector<SlammerPlace> slammers;
   i16 slammersUpper = -1;
   std::vector<ShifterTurn> shifters;
-  i16 shiftersUpper = -1;
 };
 
 bool hasExpired(const Cell& cell) { return cell.expiry < gameTick(); }
@@ -88,7 +87,7 @@ void scanCell(i16 row, i16 column, Collected& collected) {
   }
   if (cell.isCalculator == True && hasExpired(cell)) payCalculator(cell);
   if (cell.isShifter == True && hasExpired(cell)) {
-    grow(collected.shifters, collected.shiftersUpper) = {row, cell.direction};
+    collected.shifters.push_back({row, cell.direction});
     armTimer(cell);
   }
   if (cell.isBauble == True && hasExpired(cell)) payBauble(cell);
@@ -112,7 +111,7 @@ void scanPieces() {
     for (i16 column = 0; column < columnCount; ++column) scanCell(row, column, collected);
   }
   if (collected.slammersUpper > -1) checkSlams(collected.slammers, collected.slammersUpper);
-  if (collected.shiftersUpper > -1) shiftRows(collected.shifters);
+  if (!collected.shifters.empty()) shiftRows(collected.shifters);
 }
 
 void dumpGorgon() {
