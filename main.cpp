@@ -51,6 +51,7 @@ int main(int argc, char** argv) {
     setProgramFolder(folderOfProgram());
     if (!holdProgramFolder()) return 1;
     fTip_Form_Load();
+    showForm(fTip);
     runEvents();
     return 0;
   } catch (const RuntimeError& error) {

@@ -11,8 +11,6 @@
 namespace glonks {
 namespace {
 
-constexpr i32 platesOfTheme = 5;
-
 Sample loadSample(const std::string& name) {
   return ds->CreateSoundBufferFromFile("\\sounds\\" + name + ".wav", sampleDesc, sampleFormat);
 }
@@ -56,10 +54,9 @@ void loadGlyphs() {
 }
 
 void loadPlate() {
-  const i32 number = drawBelow(platesOfTheme) + 1;
+  const i32 number = drawBelow(platesInTheme) + 1;
   SurfaceDesc unread;
-  plateSurface = dd->CreateSurfaceFromFile(
-      "\\themes\\" + themeName + "\\plate_0" + plainNumber(number) + ".bmp", unread);
+  plateSurface = dd->CreateSurfaceFromFile(platePath(themeName, number), unread);
 }
 
 }  // namespace

@@ -173,10 +173,11 @@ inline Flag pythagoreanDone = False;     // bonus paid in this game; reset: Fals
 inline i16 pythagoreanSum = 0;           // what Calculators have paid; reset: 0
 inline i16 bTypeLeft = 0;                // BType pieces on the field; not reset
 inline std::string themeName = "Cells";  // folder of the chosen theme; kept
-inline i16 musicVolume = 70;             // 0 to 100, for the next song; kept
-inline i16 songIndex = -1;               // position in the list of songs; kept
-inline std::string songTitle;            // line at the foot of the screen; kept
-inline u32 tickBase = 0;                 // what gameTick takes off the clock, ms; kept
+inline constexpr i16 loudest = 100;
+inline i16 musicVolume = 70;   // 0 to loudest, for the next song; kept
+inline i16 songIndex = -1;     // position in the list of songs; kept
+inline std::string songTitle;  // line at the foot of the screen; kept
+inline u32 tickBase = 0;       // what gameTick takes off the clock, ms; kept
 
 // Adds points, which may be negative, to `score` at once.
 inline void payScore(i64 points) { score = held<i32>(score + points); }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
 
+#include "game/text.h"
 #include "game/types.h"
 #include "present/services/directsound.h"
 #include "present/services/surface.h"
@@ -39,6 +41,12 @@ inline Surface frameSurface;                           // the mode's, 1024 by 76
 inline std::array<Surface, glyphCount> glyphSurfaces;  // 50 by 50 each
 inline std::array<Surface, 5> frogPictures;            // 100 by 100 each
 inline Surface explosionSurface;                       // 300 by 300
+// Plates of a theme, numbered from 1, and where one lies.
+inline constexpr i16 platesInTheme = 5;
+inline std::string platePath(const std::string& theme, i32 number) {
+  return "\\themes\\" + theme + "\\plate_0" + plainNumber(number) + ".bmp";
+}
+
 inline Surface plateSurface;  // the theme's, 500 by 350, without colour key
 
 }  // namespace glonks

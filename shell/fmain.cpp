@@ -3,10 +3,14 @@
 #include "game/clock.h"
 #include "game/model.h"
 #include "game/random.h"
+#include "shell/fcontrols.h"
+#include "shell/fpieces.h"
+#include "shell/fsplash.h"
 #include "shell/menucontrols.h"
+#include "shell/menulayout.h"
 #include "shell/modes.h"
-#include "shell/playbutton.h"
-#include "shell/songlist.h"
+#include "shell/musicpage.h"
+#include "shell/storepage.h"
 #include "shell/themes.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/log.h"
@@ -16,46 +20,24 @@
 namespace glonks {
 namespace {
 
-constexpr i32 formWidth = 3615;
-constexpr i32 formHeight = 5175;
-constexpr i16 choicePage = 0;
+enum Page : i16 {
+  newGamePage,
+  scoresPage,
+  creditsPage,
+  storePage,
+  backgroundsPage,
+  musicPage,
+  bandsPage,
+  titlePage
+};
 
-void place(Control& control, i32 left, i32 top, i32 width, i32 height) {
-  control.left = left;
-  control.top = top;
-  control.width = width;
-  control.height = height;
+void hidePages() {
+  for (Frame& page : frame) page.visible = page.enabled = False;
 }
 
-void layOutChoicePage() {
-  place(frame[choicePage], 0, 0, formWidth, formHeight);
-  place(Image7, 0, 120, formWidth, 5070);
-  place(tMode, 240, 600, 3135, 315);
-  place(tModeDesc, 240, 1080, 3135, 855);
-  place(tLevels, 240, 2520, 3135, 1785);
-  place(main_BtnRun, 2280, 4560, 1095, 495);
-  tMode.tabIndex = 4;
-  tLevels.tabIndex = 5;
-  Image7.picture = ":/forms/page0.png";
-  main_BtnRun.hint = "Play";
-  tMode.click = tMode_Click;
-  main_BtnRun.click = main_BtnRun_Click;
-  frame[choicePage].controls = {&Image7, &tMode, &tModeDesc, &tLevels, &main_BtnRun};
-}
-
-void layOut() {
-  fMain.caption = "Glonks";
-  fMain.width = formWidth;
-  fMain.height = formHeight;
-  fMain.menus = {{"Game", {{"New", mNew_Click}, {"Quit", mExit_Click}}}};
-  fMain.unload = fMain_Form_Unload;
-  layOutChoicePage();
-  fMain.controls.assign({&frame[choicePage]});
-}
-
-void setPage(Frame& page, Flag shown) {
-  page.visible = shown;
-  page.enabled = shown;
+void showAndEnable(i16 page) {
+  Frame& shown = frame[static_cast<std::size_t>(page)];
+  shown.visible = shown.enabled = True;
 }
 
 }  // namespace
@@ -64,9 +46,10 @@ void fMain_Form_Load() {
   logEnabled = True;
   openLog();
   rtcRandomize(clockSeed());
-  layOut();
-  for (Frame& page : frame) setPage(page, False);
+  layOutMenu();
+  hidePages();
   boot();
+  showAndEnable(titlePage);
 }
 
 void boot() {
@@ -75,13 +58,13 @@ void boot() {
   popModes();
   popThemes();
   popSongs();
-  setPage(frame[choicePage], True);
+  showAndEnable(newGamePage);  // the title page covers it
   songIndex = -1;
 }
 
 void showPage(i16 page) {
-  for (Frame& other : frame) setPage(other, False);
-  setPage(frame[static_cast<std::size_t>(page)], True);
+  hidePages();
+  showAndEnable(page);
 }
 
 void fMain_Form_Unload() {
@@ -91,8 +74,38 @@ void fMain_Form_Unload() {
   endProgram();
 }
 
-void mNew_Click() { showPage(choicePage); }
+void mNew_Click() { showPage(newGamePage); }
 
 void mExit_Click() { endProgram(); }
+
+void mStore_Click() {
+  showPage(storePage);
+  showStock();
+}
+
+void mBackgrounds_Click() { showPage(backgroundsPage); }
+
+void mMusic_Click() { showPage(musicPage); }
+
+void mScores_Click() { showPage(scoresPage); }
+
+void mBands_Click() { showPage(bandsPage); }
+
+void mCredits_Click() { showPage(creditsPage); }
+
+void mAbout_Click() { showForm(fSplash, fSplash_Form_Load); }
+
+void mManual_Click() {
+  const std::string manual = "\\manual.exe";
+  if (!startProgram(manual)) messageBox("The file \"" + manual + "\" can't be started.");
+}
+
+void mPieces_Click() { showForm(fPieces, fPieces_Form_Load); }
+
+void mControls_Click() { showForm(fControls, fControls_Form_Load); }
+
+void Image6_Click() { mNew_Click(); }
+
+void scoreModes_Click() { scores_freestyle.visible = flagOf(textOf(scoreModes) == "Freestyle"); }
 
 }  // namespace glonks

@@ -1,18 +1,62 @@
 #include "shell/ftip.h"
 
+#include <string>
+#include <vector>
+
 #include "game/clock.h"
+#include "game/errors.h"
+#include "game/model.h"
 #include "game/random.h"
 #include "shell/fmain.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/playerfiles.h"
 #include "storage/scrambledfiles.h"
+#include "storage/textchannels.h"
 
 namespace glonks {
+namespace {
+
+constexpr i16 tipChannel = 7;
+constexpr i32 tipFont = 195;  // twips
+const std::string greeting = "Welcome to Glonks!  Have a good game.";
+
+void layOut() {
+  setInside(fTip, "", 4365, 2490, fTip_background, ":/forms/tip.png");
+  place(tip, {140, 640, 4095, 1695, 0});
+  tip.fontHeight = tipFont;
+  fTip.controls = {&fTip_background, &tip};
+}
+
+// The lines of the file of tips, none if it can't be read: a game needs no tip.
+std::vector<std::string> readTips() {
+  std::vector<std::string> tips;
+  i16 tipsUpper = -1;
+  try {
+    ScrambledReader file("\\init\\1182", tipChannel);
+    rtcRandomize(clockSeed());
+    while (!endOfFile(tipChannel)) grow(tips, tipsUpper) = readLine(tipChannel);
+    file.close();
+  } catch (const RuntimeError&) {
+    return {};
+  }
+  return tips;
+}
+
+std::string pickTip() {
+  const std::vector<std::string> tips = readTips();
+  const auto picked = static_cast<std::size_t>(drawBelow(static_cast<i32>(tips.size())));
+  return tips.empty() ? greeting : tips[picked];
+}
+
+}  // namespace
 
 void fTip_Form_Load() {
   makeKeys(keySeed, keyDrawArgument, keyScale);
-  rtcRandomize(clockSeed());
+  layOut();
+  tip.text = pickTip();
   fMain_Form_Load();
   showForm(fMain);
+  tellOfNewFiles();
 }
 
 }  // namespace glonks

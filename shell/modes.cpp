@@ -1,30 +1,34 @@
 #include "shell/modes.h"
 
+#include <limits>
+#include <utility>
+
 #include "game/text.h"
 #include "shell/menucontrols.h"
 #include "storage/fieldreader.h"
-#include "storage/scrambledfiles.h"
+#include "storage/playerfiles.h"
 #include "storage/textchannels.h"
 
 namespace glonks {
 namespace {
 
-constexpr i16 levelListChannel = 4;
 constexpr i16 listedModes = 3;
 const std::string nothingToSelect = "No levels to select.  Just click Play!";
 
+// All levels of the file, before the list shows any.
 void readOpenLevels() {
-  ScrambledReader file("\\init\\6537", levelListChannel);
-  while (!endOfFile(levelListChannel)) {
-    addItem(tLevels, readLine(levelListChannel, "level name"));
-    const std::string field = "number of level \"" + tLevels.items.back() + "\"";
-    const std::string number = readLine(levelListChannel, field);
-    if (!isNumber(number)) badField(levelListChannel, field, "isn't a number.");
+  std::vector<std::pair<std::string, i32>> levels;
+  while (!endOfFile(playersChannel)) {
+    const std::string name = readLine(playersChannel, "level name");
+    const std::string field = "number of level \"" + name + "\"";
+    const std::string number = readLine(playersChannel, field);
+    if (!isNumber(number)) badField(playersChannel, field, "isn't a number.");
     using Whole = std::numeric_limits<i32>;
-    tLevels.itemData.back() =
-        roundedField(levelListChannel, field, leadingNumber(number), Whole::min(), Whole::max());
+    levels.emplace_back(name, roundedField(playersChannel, field, leadingNumber(number),
+                                           Whole::min(), Whole::max()));
   }
-  file.close();
+  if (levels.empty()) badField(playersChannel, "level name", "is missing.");
+  for (const auto& [name, number] : levels) addItem(tLevels, name, number);
 }
 
 }  // namespace
@@ -57,7 +61,10 @@ void tMode_Click() {
   if (mode == "B-Type") {
     for (const char* level : {"Mild", "Medium", "Spicy"}) addItem(tLevels, level);
   }
-  if (mode == "Arcade") readOpenLevels();
+  if (mode == "Arcade") {
+    readPlayersFile(levelsFile, readOpenLevels);
+    tellOfNewFiles();
+  }
 }
 
 }  // namespace glonks

@@ -20,7 +20,7 @@ inline i16 modesUpper = -1;  // 3 once filled; the last slot is free
 void popModes();
 
 // A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels
-// from "\init\6537"; raises fileNotFound, inputPastEnd, overflow or badFile for that file.
+// from "\init\6537", which is made anew if it is damaged.
 void tMode_Click();
 
 }  // namespace glonks

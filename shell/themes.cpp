@@ -1,8 +1,34 @@
 #include "shell/themes.h"
 
-namespace glonks {
+#include "game/model.h"
+#include "game/resources.h"
+#include "shell/bands.h"
+#include "shell/menucontrols.h"
+#include "storage/store.h"
 
-// The pages for themes and bands aren't built yet.
-void popThemes() {}
+namespace glonks {
+namespace {
+
+void showPlate(i16 number) { themePic.picture = platePath(textOf(theme), number); }
+
+}  // namespace
+
+void popThemes() {
+  clearItems(theme);
+  addItem(theme, "Cells");
+  addItem(theme, "Embers");
+  setText(theme, themeName);
+  if (theme.listIndex < 0) setListIndex(theme, 0);
+  readBands();
+}
+
+void theme_Click() {
+  showPlate(1);
+  setValue(HScroll1, 1);
+  themeName = textOf(theme);
+  saveStore();
+}
+
+void HScroll1_Change() { showPlate(HScroll1.value); }
 
 }  // namespace glonks

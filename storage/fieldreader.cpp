@@ -1,5 +1,6 @@
 #include "storage/fieldreader.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "game/errors.h"
@@ -19,12 +20,12 @@ Whole fitting(i16 channel, const std::string& fieldName, double number) {
   return static_cast<Whole>(roundedField(channel, fieldName, number, Limits::min(), Limits::max()));
 }
 
-double wholeNumber(i16 channel, const std::string& fieldName) {
+double numberField(i16 channel, const std::string& fieldName) {
   const std::string text = readField(channel, fieldName);
   if (!isNumber(text)) {
     throw RuntimeError(ErrorNumber::typeMismatch, place(channel, fieldName) + "isn't a number.");
   }
-  return std::floor(leadingNumber(text));
+  return leadingNumber(text);
 }
 
 }  // namespace
@@ -50,11 +51,16 @@ Flag readFlag(i16 channel, const std::string& fieldName) {
 }
 
 i16 readWholeI16(i16 channel, const std::string& fieldName) {
-  return fitting<i16>(channel, fieldName, wholeNumber(channel, fieldName));
+  return fitting<i16>(channel, fieldName, std::floor(numberField(channel, fieldName)));
 }
 
 i32 readWholeI32(i16 channel, const std::string& fieldName) {
-  return fitting<i32>(channel, fieldName, wholeNumber(channel, fieldName));
+  return fitting<i32>(channel, fieldName, std::floor(numberField(channel, fieldName)));
+}
+
+i32 readWithin(i16 channel, const std::string& fieldName, i32 low, i32 high) {
+  const double rounded = roundHalfEven(numberField(channel, fieldName));
+  return static_cast<i32>(std::clamp<double>(rounded, low, high));
 }
 
 void badField(i16 channel, const std::string& fieldName, const std::string& trouble) {

@@ -1,8 +1,43 @@
 #include "storage/progress.h"
 
-namespace glonks {
+#include <algorithm>
+#include <string>
+#include <vector>
 
-// Progress isn't built yet, and no level can be won.
-void awardLevel() {}
+#include "game/model.h"
+#include "game/text.h"
+#include "shell/menucontrols.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/playerfiles.h"
+#include "storage/scrambledfiles.h"
+#include "storage/textchannels.h"
+
+namespace glonks {
+namespace {
+
+std::vector<std::string> linesOfLevels() {
+  std::vector<std::string> lines;
+  readPlayersFile(levelsFile, [&lines] {
+    lines.clear();
+    while (!endOfFile(playersChannel)) lines.push_back(readLine(playersChannel));
+  });
+  return lines;
+}
+
+}  // namespace
+
+void awardLevel() {
+  const auto& open = tLevels.items;
+  if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return;
+  messageBox("Congratulations!  You have been awarded a new level for Arcade mode!");
+  std::vector<std::string> lines = linesOfLevels();
+  lines.push_back(rewardLevelName);
+  lines.push_back(signedNumber(rewardLevelFile) + " ");
+  writePlayersFile(levelsFile, [&lines] {
+    for (const std::string& line : lines) writeLine(ScrambledWriter::channel, line);
+  });
+  addItem(tLevels, rewardLevelName, rewardLevelFile);
+  tellOfNewFiles();
+}
 
 }  // namespace glonks

@@ -131,6 +131,10 @@ void unscrambleFile(const std::string& scrambledPath, const std::string& plainPa
              [](const std::string& line) { return reverseText(unscrambleLine(line)); });
 }
 
+void copyScrambledFile(const std::string& source, const std::string& target) {
+  changeFile(source, target, ChannelMode::replace, [](const std::string& line) { return line; });
+}
+
 TempFileGuard::~TempFileGuard() {
   std::error_code ignored;
   std::filesystem::remove(nativePath(tempPath), ignored);

@@ -62,6 +62,9 @@ std::string unscrambleLine(const std::string& scrambled);
 void scrambleFile(const std::string& plainPath, const std::string& scrambledPath);
 void unscrambleFile(const std::string& scrambledPath, const std::string& plainPath);
 
+// The same for lines that stay as they are: a whole new `target` with the lines of `source`.
+void copyScrambledFile(const std::string& source, const std::string& target);
+
 // Deletes the temp file, if it is still there, when it goes.
 class TempFileGuard {
  public:

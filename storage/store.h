@@ -1,9 +1,21 @@
 #pragma once
 
-// What a player keeps between games: credits, goods, notes, theme and volume, in "\init\6702".
+#include "game/types.h"
+
+// What a player keeps between games: credits, goods, notes, theme and volume, in "\init\6702". The
+// file has 13 lines, a value each.
 namespace glonks {
 
+// Kept for the file's sake: read and written back, and used by nothing.
+inline Flag storeFlagA = False;
+inline Flag storeFlagB = False;
+inline Flag storeFlagC = False;
+
+// Reads the file into its variables and sets the volume's scroll bar. A value out of range is
+// brought to the nearest allowed one; a damaged file is made anew.
 void loadStore();
+
+// Writes the file. Raises fileAccess if the player gives up a write that fails.
 void saveStore();
 
 }  // namespace glonks

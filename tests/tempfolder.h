@@ -14,7 +14,8 @@
 namespace glonks {
 
 // A folder of its own for one test, made the program's folder and deleted at the end. It has all
-// that the game reads, by links; tests that write data files begin with ownDataFolders.
+// that the game reads, by links, and the player's files as they are at first; tests that write other
+// data files begin with ownDataFolders.
 class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
@@ -25,8 +26,15 @@ class TempFolder : public ::testing::Test {
     folder = fs::temp_directory_path() / ("glonks." + std::to_string(getpid()) + "." + name);
     fs::remove_all(folder);
     fs::create_directories(folder);
-    for (const char* part : {"images", "sounds", "music", "themes", "init", "levels"}) {
-      fs::create_directory_symlink(fs::path(GLONKS_GAME_FOLDER) / part, folder / part);
+    const fs::path game = GLONKS_GAME_FOLDER;
+    for (const char* part : {"images", "sounds", "music", "themes", "levels", "first"}) {
+      fs::create_directory_symlink(game / part, folder / part);
+    }
+    ownFolderOfLinks("init");
+    for (const auto& file : fs::directory_iterator(game / "first")) {
+      const fs::path own = folder / "init" / file.path().filename();
+      fs::remove(own);
+      fs::create_symlink(file.path(), own);
     }
     setProgramFolder(folder);
   }
@@ -35,7 +43,7 @@ class TempFolder : public ::testing::Test {
   // Empty folders in the place of the game's data files.
   void ownDataFolders() const {
     for (const char* part : {"init", "levels"}) {
-      std::filesystem::remove(folder / part);
+      std::filesystem::remove_all(folder / part);
       std::filesystem::create_directory(folder / part);
     }
   }
@@ -44,7 +52,7 @@ class TempFolder : public ::testing::Test {
   // others put in.
   void ownFolderOfLinks(const std::string& part) const {
     namespace fs = std::filesystem;
-    fs::remove(folder / part);
+    fs::remove_all(folder / part);
     fs::create_directory(folder / part);
     for (const auto& file : fs::directory_iterator(fs::path(GLONKS_GAME_FOLDER) / part)) {
       fs::create_symlink(file.path(), folder / part / file.path().filename());

@@ -6,28 +6,35 @@
 
 #include "game/errors.h"
 #include "storage/paths.h"
+#include "storage/playerfiles.h"
 #include "storage/scrambledfiles.h"
 #include "tools/levelcheck.h"
 
 // Scrambles the plain data files into the game's folder: scramble <data> <game folder>.
 // Faults in them are printed, a line for each, and then nothing is written.
-// Files that belong to the player (scores, bank, open levels) are written only where they are
-// missing or empty, so that a rebuild takes nothing away.
+// Files that belong to the player go to where the game keeps their first contents. In their own
+// place they are written only where they are missing or empty, so that a rebuild takes nothing
+// away.
 namespace {
 
 namespace fs = std::filesystem;
 using namespace glonks;
 
-bool isPlayersOwn(const std::string& name) {
-  return name == "6095" || name == "6702" || name == "6537";
+const PlayersFile* playersFile(const std::string& name) {
+  for (const PlayersFile* file : {&scoresFile, &storeFile, &levelsFile}) {
+    if (file->name == name) return file;
+  }
+  return nullptr;
 }
 
 void scrambleFolder(const fs::path& data, const std::string& folder) {
   fs::create_directories(programFolder() / folder);
   for (const fs::directory_entry& entry : fs::directory_iterator(data / folder)) {
     const std::string name = entry.path().filename().string();
+    const PlayersFile* players = playersFile(name);
+    if (players != nullptr) scrambleFile(entry.path().string(), firstContentsOf(*players));
     const fs::path target = programFolder() / folder / name;
-    if (isPlayersOwn(name) && fs::exists(target) && !fs::is_empty(target)) continue;
+    if (players != nullptr && fs::exists(target) && !fs::is_empty(target)) continue;
     scrambleFile(entry.path().string(), "\\" + folder + "\\" + name);
   }
 }
@@ -52,6 +59,7 @@ int main(int argc, char** argv) {
     if (printFaults(data)) return EXIT_FAILURE;
     setProgramFolder(fs::absolute(argv[2]));
     makeKeys(keySeed, keyDrawArgument, keyScale);
+    fs::create_directories(programFolder() / "first");
     scrambleFolder(data, "init");
     scrambleFolder(data, "levels");
   } catch (const std::exception& error) {

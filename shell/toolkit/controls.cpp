@@ -6,6 +6,15 @@
 
 namespace glonks {
 
+void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,
+               const std::string& picture) {
+  form.caption = caption;
+  form.width = width;
+  form.height = height;
+  place(background, {0, 0, width, height});
+  background.picture = picture;
+}
+
 void clearItems(Choices& list) {
   list.items.clear();
   list.itemData.clear();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -29,9 +31,10 @@ struct Label : Control {
   std::string caption;
 };
 
-// Several lines to read, with a scroll bar.
+// Several lines to read, with a scroll bar. A paragraph ends at a line end ("\n" or "\r\n").
 struct TextBox : Control {
   std::string text;
+  i32 fontHeight = 0;  // twips; 0: as everywhere
 };
 
 // A picture stretched over the control (a path of the game, or of the program's own pictures); with
@@ -68,7 +71,8 @@ struct HScrollBar : Control {
 struct Frame;
 using ControlRef = std::variant<Label*, TextBox*, Image*, ComboBox*, ListBox*, HScrollBar*, Frame*>;
 
-// A page: its controls, from back to front.
+// A page: its controls, from back to front. A page that another one in front covers can't be
+// reached by keys either.
 struct Frame : Control {
   std::vector<ControlRef> controls;
 };
@@ -83,15 +87,23 @@ struct Menu {
 };
 
 // A window: its inside in twips, its controls from back to front, and what runs when the player
-// closes it. It opens in the centre of the screen and can't be maximised.
+// closes it, in the place of closing. It opens in the centre of the screen and can't be maximised.
 struct Form {
   std::string caption;
   i32 width = 0;
   i32 height = 0;
+  Handler unload = nullptr;
   std::vector<Menu> menus;
   std::vector<ControlRef> controls;
-  Handler unload = nullptr;
 };
+
+// Gives a control its place: left, top, width, height and, for what the Tab key stops at, the place
+// in its order.
+inline void place(Control& control, const Control& at) { control = at; }
+
+// Gives a form its caption, its inside and a picture that fills it.
+void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,
+               const std::string& picture);
 
 // Changes to choices.
 void clearItems(Choices& list);  // drops the selection too
@@ -109,6 +121,16 @@ std::string textOf(const Choices& list);
 
 // Moves a scroll bar, within its range, and runs `change` if that moves it at all.
 void setValue(HScrollBar& bar, i16 value);
+
+// The handlers of a control array: that of member i runs `Routine` with i.
+template <auto Routine, std::size_t... I>
+constexpr std::array<Handler, sizeof...(I)> handlersOf(std::index_sequence<I...> /*members*/) {
+  return {[] { Routine(static_cast<i16>(I)); }...};
+}
+template <auto Routine, std::size_t count>
+constexpr auto handlersOf() {
+  return handlersOf<Routine>(std::make_index_sequence<count>());
+}
 
 // Runs a handler if there is one.
 void run(Handler handler);

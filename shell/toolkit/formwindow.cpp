@@ -12,6 +12,12 @@
 #include "shell/toolkit/style.h"
 
 namespace glonks {
+namespace {
+
+// A menu's caption, its first letter the one to press with Alt.
+QString withAltKey(const std::string& caption) { return "&" + shownText(caption); }
+
+}  // namespace
 
 FormWindow::FormWindow(Form& form) : form_(form), inside_(*new QWidget(this)) {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -28,16 +34,19 @@ void FormWindow::makeMenus() {
   if (form_.menus.empty()) return;
   menuBar()->setNativeMenuBar(false);
   for (const Menu& menu : form_.menus) {
-    QMenu* shown = menuBar()->addMenu(shownText(menu.caption));
+    QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
     for (const MenuEntry& entry : menu.entries) {
-      shown->addAction(shownText(entry.caption),
-                       [&entry] { enterFromQt([&entry] { run(entry.click); }); });
+      // Not before the menu has gone, which gives the focus back to where it was.
+      const auto choose = [&entry] { enterFromQt([&entry] { run(entry.click); }); };
+      shown->addAction(withAltKey(entry.caption), [this, choose] {
+        QMetaObject::invokeMethod(this, choose, Qt::QueuedConnection);
+      });
     }
   }
 }
 
 void FormWindow::level() {
-  const QString title = shownText(form_.caption);
+  const QString title = form_.caption.empty() ? " " : shownText(form_.caption);  // not Qt's own
   if (windowTitle() != title) setWindowTitle(title);
   const QSize size(pixels(form_.width), pixels(form_.height));
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
@@ -70,13 +79,13 @@ void FormWindow::present() {
 }
 
 void FormWindow::place() {
-  if (!placed_) {
+  if (!open_) {
     const QRect room = screen()->availableGeometry();
     const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     adjustSize();
     const QSize size = this->size() + QSize(0, titleBar);
     place_ = room.center() - QRect(QPoint(), size).center();
-    placed_ = true;
+    open_ = true;
   }
   move(place_);
 }
@@ -92,7 +101,7 @@ void FormWindow::putAway() {
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(form_.unload == nullptr);
   if (event->isAccepted()) {
-    placed_ = false;
+    open_ = false;
   } else {
     enterFromQt([this] { run(form_.unload); });
   }

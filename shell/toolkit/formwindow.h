@@ -20,6 +20,9 @@ class FormWindow : public QMainWindow {
   // Shows the window, in the centre of the screen or where it was put away, active and in front.
   void present();
 
+  // Whether the window has been presented and not been closed by the player since.
+  bool isOpen() const { return open_; }
+
   // Hides the window; present brings it back to its place.
   void putAway();
 
@@ -35,8 +38,8 @@ class FormWindow : public QMainWindow {
   QWidget& inside_;
   Mirrors mirrors_;
   std::vector<TabStop> stops_;
-  bool placed_ = false;  // the place to come back to is place_
-  QPoint place_;
+  bool open_ = false;
+  QPoint place_;               // to come back to, while open
   QPointer<QWidget> inFocus_;  // when the form was put away
 };
 

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/style.h"
@@ -32,13 +33,14 @@ class MirrorOf : public Mirror {
     levelPlace();
     levelContents();
     if (differs(&Control::enabled)) view_.setEnabled(data_.enabled != False);
-    if (differs(&Control::visible)) view_.setVisible(data_.visible != False);
+    if (view_.isHidden() == isOnShow()) view_.setVisible(isOnShow());
   }
 
   View& view() { return view_; }
 
  protected:
   virtual void levelContents() = 0;
+  virtual bool isOnShow() const { return data_.visible != False; }
 
   // Whether the field isn't shown as it is now; from then on it counts as shown.
   template <typename Owner, typename Field>
@@ -86,6 +88,11 @@ class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
 
  protected:
   void levelContents() override {
+    if (differs(&TextBox::fontHeight)) {
+      QFont font = view_.font();
+      font.setPixelSize(pixels(data_.fontHeight));
+      view_.setFont(font);
+    }
     if (differs(&TextBox::text)) view_.setPlainText(shownText(data_.text));
   }
 };
@@ -205,32 +212,50 @@ class ScrollBarMirror : public MirrorOf<HScrollBar, QScrollBar> {
   i16 dragStart_ = 0;
 };
 
+// `inFront` are the frames that may cover it.
 class FrameMirror : public MirrorOf<Frame, QWidget> {
  public:
-  FrameMirror(Frame& data, QWidget& parent, std::vector<TabStop>& stops)
-      : MirrorOf(data, parent), inside_(makeMirrors(data.controls, view_, stops)) {}
+  FrameMirror(Frame& data, std::vector<const Frame*> inFront, QWidget& parent,
+              std::vector<TabStop>& stops)
+      : MirrorOf(data, parent),
+        inFront_(std::move(inFront)),
+        inside_(makeMirrors(data.controls, view_, stops)) {}
 
  protected:
   // The controls of a hidden page wait until it is shown.
   void levelContents() override {
-    if (data_.visible == False) return;
+    if (!isOnShow()) return;
     for (const auto& mirror : inside_) mirror->level();
   }
 
+  // A page that is covered doesn't show, so that its controls can't get the focus.
+  bool isOnShow() const override {
+    return MirrorOf::isOnShow() && std::none_of(inFront_.begin(), inFront_.end(),
+                                                [this](const Frame* f) { return isCoveredBy(*f); });
+  }
+
  private:
+  bool isCoveredBy(const Frame& other) const {
+    return other.visible != False && other.left <= data_.left && other.top <= data_.top &&
+           other.left + other.width >= data_.left + data_.width &&
+           other.top + other.height >= data_.top + data_.height;
+  }
+
+  std::vector<const Frame*> inFront_;
   Mirrors inside_;
 };
 
 // One routine for each kind of control, to make its mirror.
 class Maker {
  public:
-  Maker(QWidget& parent, std::vector<TabStop>& stops) : parent_(parent), stops_(stops) {}
+  Maker(const std::vector<ControlRef>& controls, QWidget& parent, std::vector<TabStop>& stops)
+      : controls_(controls), parent_(parent), stops_(stops) {}
 
   std::unique_ptr<Mirror> operator()(Label* data) const {
     return std::make_unique<LabelMirror>(*data, parent_);
   }
   std::unique_ptr<Mirror> operator()(Frame* data) const {
-    return std::make_unique<FrameMirror>(*data, parent_, stops_);
+    return std::make_unique<FrameMirror>(*data, framesInFrontOf(*data), parent_, stops_);
   }
   std::unique_ptr<Mirror> operator()(Image* data) const {
     auto mirror = std::make_unique<ImageMirror>(*data, parent_);
@@ -254,6 +279,16 @@ class Maker {
     return mirror;
   }
 
+  std::vector<const Frame*> framesInFrontOf(const Frame& frame) const {
+    std::vector<const Frame*> frames;
+    for (const ControlRef& control : controls_) {
+      if (Frame* const* other = std::get_if<Frame*>(&control)) frames.push_back(*other);
+    }
+    frames.erase(frames.begin(), std::find(frames.begin(), frames.end(), &frame) + 1);
+    return frames;
+  }
+
+  const std::vector<ControlRef>& controls_;
   QWidget& parent_;
   std::vector<TabStop>& stops_;
 };
@@ -264,7 +299,7 @@ Mirrors makeMirrors(const std::vector<ControlRef>& controls, QWidget& parent,
                     std::vector<TabStop>& stops) {
   Mirrors mirrors;
   for (const ControlRef& control : controls) {
-    mirrors.push_back(std::visit(Maker(parent, stops), control));
+    mirrors.push_back(std::visit(Maker(controls, parent, stops), control));
   }
   return mirrors;
 }

@@ -1,12 +1,15 @@
 #include "shell/toolkit/toolkit.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMessageBox>
+#include <QProcess>
+#include <QUrl>
 #include <clocale>
 #include <map>
 #include <memory>
@@ -17,6 +20,7 @@
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/formwindow.h"
 #include "shell/toolkit/style.h"
+#include "storage/paths.h"
 
 namespace glonks {
 namespace {
@@ -37,6 +41,11 @@ FormWindow& windowOf(Form& form) {
   FormWindow*& window = windows()[&form];
   if (window == nullptr) window = new FormWindow(form);
   return *window;
+}
+
+bool isOpen(Form& form) {
+  const auto found = windows().find(&form);
+  return found != windows().end() && found->second->isOpen();
 }
 
 void levelVisibleForms() {
@@ -112,7 +121,10 @@ FolderHold holdFolder(const std::filesystem::path& folder) {
                                                      : FolderHold::notWritable;
 }
 
-void showForm(Form& form) { windowOf(form).present(); }
+void showForm(Form& form, Handler load) {
+  if (!isOpen(form)) run(load);
+  windowOf(form).present();
+}
 
 void hideForm(Form& form) {
   const auto found = windows().find(&form);
@@ -139,6 +151,15 @@ void letMessagesThrough() {
   }
   letWindowMessagesThrough();
   raiseKept();
+}
+
+void openBySystem(const std::string& address) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(shownText(address)));
+}
+
+bool startProgram(const std::string& path) {
+  const QFileInfo file(nativePath(path));
+  return QProcess::startDetached(file.filePath(), {}, file.path());
 }
 
 void messageBox(const std::string& text) { askBox(text, QMessageBox::Ok, QMessageBox::Ok); }

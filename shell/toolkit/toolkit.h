@@ -19,9 +19,10 @@ std::filesystem::path folderOfProgram();
 enum class FolderHold { held, otherRun, notWritable };
 FolderHold holdFolder(const std::filesystem::path& folder);
 
-// Loads a form, if it isn't, and shows it: in the centre of the screen the first time, at its old
-// place after hideForm, active and in front. The form and its controls have to live on.
-void showForm(Form& form);
+// Shows a form, active and in front. For one that isn't open `load` runs first, and it comes up in
+// the centre of the screen; after hideForm it comes back to its old place as it was. The form and
+// its controls have to live on.
+void showForm(Form& form, Handler load = nullptr);
 // Puts a form out of use and out of sight; it keeps what it shows.
 void hideForm(Form& form);
 
@@ -32,6 +33,13 @@ void endProgram();
 // Handles all events that are waiting, those of the game's window too, and may wait up to a
 // millisecond for the next one.
 void letMessagesThrough();
+
+// Has the system open an address, by the player's browser for a web address. Doesn't wait.
+void openBySystem(const std::string& address);
+
+// Starts a program file as a process of its own, which outlives this one, in its own folder.
+// Doesn't wait. False if it can't be started.
+bool startProgram(const std::string& path);
 
 // Dialogs, in front of all the program's windows. Enter presses their first button, Escape their
 // last.

@@ -1,9 +1,13 @@
 #include "shell/toolkit/widgets.h"
 
+#include <QHelpEvent>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 #include "shell/toolkit/style.h"
@@ -74,10 +78,76 @@ void DropDown::paintEvent(QPaintEvent* event) {
   painter.drawPolyline(arrow, 3);
 }
 
+namespace {
+
+// Logical pixels.
+constexpr int rowHeight = 17;
+constexpr int smallestRowHeight = 12;
+constexpr int secondColumn = 92;
+constexpr int rowMargin = 5;
+
+// Paints the rows of a ChoiceList.
+class ListRow : public QStyledItemDelegate {
+ public:
+  explicit ListRow(QAbstractItemView& list) : QStyledItemDelegate(&list), list_(list) {}
+
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    const int fitting = list_.viewport()->height() / std::max(list_.model()->rowCount(), 1);
+    const bool allFit = fitting >= smallestRowHeight * scaleFactor();
+    const int natural = rowHeight * scaleFactor();
+    return {0, allFit ? std::min(fitting, natural) : natural};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const QStringList columns = std::exchange(row.text, {}).split('\t');
+    const QStyle* style = list_.style();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, &list_);
+    painter->setFont(row.font);
+    painter->setPen(colourOf(row));
+    for (int i = 0; i < columns.size(); ++i) {
+      const QRect place = placeOf(i, row);
+      const QString shown = row.fontMetrics.elidedText(columns[i], Qt::ElideRight, place.width());
+      painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    }
+  }
+
+  // Shows the last column whole if it is too long for the list.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const QStringList columns = index.data().toString().split('\t');
+    const int room = placeOf(static_cast<int>(columns.size()) - 1, option).width();
+    const bool fits = option.fontMetrics.horizontalAdvance(columns.last()) <= room;
+    QToolTip::showText(event->globalPos(), fits ? QString() : columns.last(), view);
+    return true;
+  }
+
+ private:
+  static QRect placeOf(int column, const QStyleOptionViewItem& row) {
+    const int margin = rowMargin * scaleFactor();
+    const int left = column == 0 ? margin : secondColumn * scaleFactor();
+    return row.rect.adjusted(left, 0, -margin, 0);
+  }
+
+  static QColor colourOf(const QStyleOptionViewItem& row) {
+    const bool enabled = (row.state & QStyle::State_Enabled) != 0;
+    const bool selected = (row.state & QStyle::State_Selected) != 0;
+    const bool inFocus = (row.state & QStyle::State_HasFocus) != 0;
+    const auto role = enabled && selected && inFocus ? QPalette::HighlightedText : QPalette::Text;
+    return row.palette.color(enabled ? QPalette::Active : QPalette::Disabled, role);
+  }
+
+  QAbstractItemView& list_;
+};
+
+}  // namespace
+
 ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setUniformItemSizes(true);
+  setItemDelegate(new ListRow(*this));
 }
 
 int ChoiceList::selectedRow() const {

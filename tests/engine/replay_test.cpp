@@ -90,7 +90,8 @@ class ReplayTest : public BoardTest {
     addItem(tMode, script.mode);
     addItem(tLevels, script.name);
     tLevels.itemData.back() = 7;
-    tMode.listIndex = tLevels.listIndex = static_cast<i32>(tMode.items.size()) - 1;
+    tMode.listIndex = static_cast<i16>(tMode.items.size() - 1);
+    tLevels.listIndex = static_cast<i16>(tLevels.items.size() - 1);
     i32 start = -1, nextKey = 0, nextNote = 10000;
     std::size_t pressed = 0;
     auto event = script.events.begin();
@@ -227,6 +228,7 @@ TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {
     play(script);
     EXPECT_EQ(levelWon == True, script.name.substr(0, 3) == "won") << script.name;
   }
+  EXPECT_EQ(fake::boxes.size(), 1U) << "two levels won, with the same reward";
   expectRecord("arcade");
 }
 

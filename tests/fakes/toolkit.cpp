@@ -11,6 +11,7 @@ void resetToolkit() {
   yes = False;
   typed.clear();
   forms.clear();
+  opened.clear();
   messages = nullptr;
   messagePasses = 0;
 }
@@ -20,10 +21,15 @@ void resetToolkit() {
 void startToolkit(int /*argc*/, char** /*argv*/) {}
 std::filesystem::path folderOfProgram() { return {}; }
 FolderHold holdFolder(const std::filesystem::path& /*folder*/) { return FolderHold::held; }
-void showForm(Form& form) { fake::forms.push_back("show " + form.caption); }
+void showForm(Form& form, Handler /*load*/) { fake::forms.push_back("show " + form.caption); }
 void hideForm(Form& form) { fake::forms.push_back("hide " + form.caption); }
 void runEvents() {}
 void endProgram() {}
+void openBySystem(const std::string& address) { fake::opened.push_back(address); }
+bool startProgram(const std::string& path) {
+  fake::opened.push_back(path);
+  return true;
+}
 void messageBox(const std::string& text) { fake::boxes.push_back(text); }
 Flag yesNoBox(const std::string& question) {
   fake::boxes.push_back(question);

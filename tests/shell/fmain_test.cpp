@@ -1,10 +1,23 @@
 #include "shell/fmain.h"
 
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QTextBrowser>
+
 #include "game/model.h"
+#include "shell/bands.h"
+#include "shell/fpieces.h"
+#include "shell/fsplash.h"
+#include "shell/ftip.h"
+#include "shell/links.h"
 #include "shell/menucontrols.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/log.h"
+#include "storage/scores.h"
 #include "storage/scrambledfiles.h"
+#include "storage/store.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/sound.h"
 #include "tests/fakes/window.h"
@@ -16,51 +29,180 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// The main window as a player has it, with real controls and no screen.
+// The program as a player has it, with real controls and no screen.
 class MainWindowTest : public TempFolder {
  protected:
   MainWindowTest() {
     fake::resetClock();
     fake::resetSound();
     fake::resetWindow();
-    makeKeys(keySeed, keyDrawArgument, keyScale);
-    fMain_Form_Load();
-    showForm(fMain);
+    clearItems(allBands);
+    fTip_Form_Load();
     letMessagesThrough();
-    window = shownWindow();
+    window = shownWindow("Glonks");
   }
   ~MainWindowTest() override {
     hideForm(fMain);
+    while (QWidget* other = shownWindow()) other->close();
     closeLog();
   }
-  void clickPlay() const {
-    QTest::mouseClick(playButton(window), Qt::LeftButton);
+  static void putScrambled(const std::string& path, const std::string& plain) {
+    putBytes("\\plain", plain);
+    std::filesystem::remove(nativePath(path));
+    scrambleFile("\\plain", path);
+  }
+  void press(const char* hint) const {
+    QTest::mouseClick(hotSpot(window, hint), Qt::LeftButton);
     letMessagesThrough();  // brings what the click has raised
   }
+  void choose(const QString& menuCaption, const QString& caption) const {
+    for (const QAction* menu : static_cast<QMainWindow*>(window)->menuBar()->actions()) {
+      if (menu->text() != menuCaption) continue;
+      for (QAction* entry : menu->menu()->actions()) {
+        if (entry->text() == caption) entry->trigger();
+      }
+    }
+    letMessagesThrough();
+  }
   std::string messageOfPlay() const {
-    answered(Qt::Key_Return, [this] { clickPlay(); });
+    answered(Qt::Key_Return, [this] { press("Play"); });
     return lastMessage;
+  }
+  // Runs the program by its events, beginning with the action, until it ends.
+  static void endBy(const std::function<void()>& action) {
+    later(action);
+    runEvents();
   }
   QWidget* window = nullptr;
 };
 
-TEST_F(MainWindowTest, StartShowsPageZeroWithAllModesAndNothingChosen) {
+TEST_F(MainWindowTest, StartShowsTheTitleWithEverythingRead) {
   EXPECT_EQ(tMode.items, (Texts{"Freestyle", "Arcade", "B-Type"}));
   EXPECT_TRUE(tMode.listIndex == -1 && tLevels.items.empty());
   EXPECT_EQ(textOf(scoreModes), "Freestyle");
+  EXPECT_TRUE(scores_freestyle.items.size() == 10 && scores_freestyle.visible == True);
   EXPECT_TRUE(songs.items.size() == 4 && std::is_sorted(songs.items.begin(), songs.items.end()));
-  for (const Frame& page : frame) {
-    EXPECT_EQ(page.visible, flagOf(&page == &frame[0]));
-    EXPECT_EQ(page.enabled, page.visible);
+  EXPECT_TRUE(bank == 5 && HScroll2.value == 70 && allBands.items.size() == 4);
+  EXPECT_EQ(themePic.picture, "\\themes\\Cells\\plate_01.bmp");
+  // The title covers the first page, which the keys can't reach either.
+  EXPECT_TRUE(frame[0].visible == True && frame[7].visible == True);
+  EXPECT_EQ(window->focusWidget(), hotSpot(window, "Start"));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(window->focusWidget(), hotSpot(window, "Start"));
+  press("Start");
+  EXPECT_TRUE(hotSpot(window, "Play")->isVisible() && !hotSpot(window, "Start")->isVisible());
+}
+
+TEST_F(MainWindowTest, MenuEntriesShowTheirPageOrWindow) {
+  const std::tuple<const char*, const char*, int> pages[] = {
+      {"&Game", "&New", 0},      {"&Options", "&Spend Credits", 3}, {"&Options", "&Backgrounds", 4},
+      {"&Options", "&Music", 5}, {"&View", "&High Scores", 1},      {"&View", "&Bands", 6},
+      {"&View", "&Credits", 2},  {"&View", "&Credits", 2},          {"&Game", "&New", 0}};
+  setText(tMode, "B-Type");
+  for (const auto& [menu, entry, page] : pages) {
+    choose(menu, entry);
+    for (int i = 0; i < pageCount; ++i) {
+      const Frame& other = frame[static_cast<std::size_t>(i)];
+      EXPECT_TRUE(other.visible == flagOf(i == page) && other.enabled == other.visible) << entry;
+    }
   }
+  EXPECT_TRUE(textOf(tMode) == "B-Type" && tLevels.items.size() == 3);
+  const std::pair<const char*, const char*> windows[] = {
+      {"&About", "about"}, {"&Pieces", "the specimen box"}, {"&Controls", "the control room"}};
+  for (const auto& [entry, title] : windows) {
+    choose("&Help", entry);
+    ASSERT_NE(shownWindow(title), nullptr) << title;
+    EXPECT_FALSE(shownWindow(title)->isModal());
+  }
+  answered(Qt::Key_Return, [this] { choose("&Help", "&Manual"); });
+  EXPECT_PRED2(holds, lastMessage, "\\manual.exe") << "there is none in this folder";
+  endBy([this] { window->close(); });  // with the others still open
+}
+
+TEST_F(MainWindowTest, SpecimensTellAboutThemselvesUntilTheBoxIsClosed) {
+  const std::pair<std::size_t, const char*> beginnings[] = {
+      {0, "Glonks are"},    {3, "Glonks are"},    {4, "Slammers"}, {5, "Bombs"},     {6, "Baubles"},
+      {7, "Upon settling"}, {8, "Calculators"},   {9, "Gorgons"},  {10, "Shifters"}, {11, "Rocks"},
+      {13, "Rocks"},        {14, "Bowling Ball"}, {15, "Money"},   {16, "B-Type"},   {17, "Music"}};
+  choose("&Help", "&Pieces");
+  QWidget* box = shownWindow("the specimen box");
+  const auto* text = box->findChild<QPlainTextEdit*>();
+  EXPECT_EQ(pieceDesc.text, "Click on a piece for its description.\r\n");
+  for (const auto& [index, beginning] : beginnings) {
+    run(pClick[index].click);
+    letMessagesThrough();
+    EXPECT_TRUE(text->toPlainText().startsWith(beginning)) << index;
+  }
+  QTest::mouseClick(hotSpot(box, "Diamond"), Qt::LeftButton);
+  EXPECT_TRUE(text->toPlainText().startsWith("Upon settling"));
+  choose("&Help", "&Pieces");
+  EXPECT_PRED2(holds, pieceDesc.text, "Upon settling") << "still open";
+  box->close();
+  choose("&Help", "&Pieces");
+  EXPECT_PRED2(holds, pieceDesc.text, "Click on a piece");
+}
+
+TEST_F(MainWindowTest, TipIsALineOfItsFileOrAGreeting) {
+  const std::pair<const char*, const char*> table[] = {
+      {"One, \"two\", three\r\n", "One, \"two\", three"},
+      {"", "Welcome to Glonks!"},
+      {nullptr, "Welcome to Glonks!"}};
+  for (const auto& [file, shown] : table) {
+    std::filesystem::remove(nativePath("\\init\\1182"));
+    if (file != nullptr) putScrambled("\\init\\1182", file);
+    closeLog();
+    fTip_Form_Load();
+    EXPECT_PRED2(holds, tip.text, shown);
+    EXPECT_FALSE(exists(tempPath));
+  }
+  showForm(fTip);
+  EXPECT_NE(shownWindow(" "), nullptr);
+}
+
+TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndItsPlatesLeafedThrough) {
+  choose("&Options", "&Backgrounds");
+  const std::string before = bytesOf("\\init\\6702");
+  setValue(HScroll1, 3);
+  EXPECT_EQ(themePic.picture, "\\themes\\Cells\\plate_03.bmp");
+  EXPECT_EQ(bytesOf("\\init\\6702"), before);
+  auto* combo = static_cast<QComboBox*>(window->focusWidget());
+  QTest::keyClick(combo, Qt::Key_Down);
+  EXPECT_TRUE(themeName == "Embers" && HScroll1.value == 1);
+  EXPECT_EQ(themePic.picture, "\\themes\\Embers\\plate_01.bmp");
+  EXPECT_NE(bytesOf("\\init\\6702"), before);
+  themeName = "gone";
+  saveStore();
+  closeLog();
+  fMain_Form_Load();
+  EXPECT_EQ(themeName, "Cells") << "the first, in the place of an unknown one";
+}
+
+TEST_F(MainWindowTest, LinksGoToTheSystem) {
+  putScrambled("\\init\\6859",
+               "Zebra,https://z.example/\r\n\"A, B\"\r\nhttps://a.example/\r\nMute,\r\n"
+               "Zebra,https://last.example/\r\n");
+  QTextBrowser browser;  // stands for the player's
+  QDesktopServices::setUrlHandler("https", &browser, "setSource");
+  clearItems(allBands);
+  readBands();
+  EXPECT_EQ(allBands.items, (Texts{"A, B", "Mute", "Zebra", "Zebra"}));
+  choose("&View", "&Bands");
+  const std::pair<const char*, const char*> table[] = {{"", ""},
+                                                       {"A, B", "https://a.example/"},
+                                                       {"Mute", "https://a.example/"},
+                                                       {"Zebra", "https://last.example/"}};
+  for (const auto& [band, link] : table) {
+    setText(allBands, band);
+    press("Open the band's page");
+    EXPECT_EQ(browser.source().toString().toStdString(), link) << band;
+  }
+  fSplash_Image2_Click();
+  EXPECT_EQ(browser.source().toString().toStdString(), makersAddress);
+  QDesktopServices::unsetUrlHandler("https");
 }
 
 TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevels) {
-  const auto putLevels = [](const char* plain) {
-    putBytes("\\plain", plain);
-    scrambleFile("\\plain", "\\init\\6537");
-  };
-  ownDataFolders();
+  const auto putLevels = [](const char* plain) { putScrambled("\\init\\6537", plain); };
   putLevels("One, two\r\n 17 \r\nLast\r\n9");
   const std::tuple<const char*, const char*, Texts> table[] = {
       {"Arcade", "Every level challenges you", {"One, two", "Last"}},
@@ -75,13 +217,11 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevels) {
     tLevels.listIndex = 0;
   }
   EXPECT_EQ(tLevels.itemData, (std::vector<i32>{17, 9}));
-  for (const char* plain : {"Alone\r\n", "Level\r\nseven\r\n"}) {
-    putLevels(plain);
-    EXPECT_PRED2(holds, errorOf([] { setText(tMode, "Arcade"); }), "\\init\\6537") << plain;
-  }
 }
 
 TEST_F(MainWindowTest, PlayAsksForWhatIsMissing) {
+  mNew_Click();
+  letMessagesThrough();
   EXPECT_EQ(messageOfPlay(), "Please select a game mode.");
   setText(tMode, "Arcade");
   EXPECT_EQ(messageOfPlay(), "Please select a level.");
@@ -90,26 +230,31 @@ TEST_F(MainWindowTest, PlayAsksForWhatIsMissing) {
   EXPECT_TRUE(window->isVisible() && !fake::windowOpen);
 }
 
-TEST_F(MainWindowTest, GameRunsInsideTheClickAndLeavesTheMenuAsItWas) {
+TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
+  press("Start");
   setText(tMode, "Freestyle");
   for (i32 game = 1; game <= 2; ++game) {
     i32 passes = 0;
     fake::windowMessages = [&] {
       ++fake::clockNow;
-      if (++passes == 3000) fake::pressKeys({1});
-      if (passes != 100) return;
-      EXPECT_TRUE(score == 0 && fallingPiecesUpper == -1) << "a second game starts clean";
-      EXPECT_FALSE(window->isVisible());
-      clickPlay();  // out of reach
+      if (++passes == 100) {
+        EXPECT_TRUE(score == 0 && fallingPiecesUpper == -1) << "a second game starts clean";
+        EXPECT_FALSE(window->isVisible());
+        press("Play");  // out of reach
+      }
+      if (passes != 3000) return;
+      fake::pressKeys({1});
+      if (game == 2) score = 30000;
+      answerNext(Qt::Key_Return, QString::fromUtf8("Zoë"));
     };
-    clickPlay();
+    press("Play");
     fake::windowMessages = nullptr;
     EXPECT_GE(passes, 3000);
-    EXPECT_GE(fallingPiecesUpper, 0);
     EXPECT_TRUE(window->isVisible() && !fake::windowOpen);
-    EXPECT_EQ(textOf(tMode), "Freestyle");
-    score = 999;
+    EXPECT_TRUE(textOf(tMode) == "Freestyle" && frame[game == 1 ? 0 : 1].visible == True);
   }
+  EXPECT_TRUE(highScores[0].points == 30000 && highScores[0].playerName == "Zo\xeb");
+  EXPECT_EQ(highScores[1].points, 25000);
   const std::string log = bytesOf("\\log.txt");
   std::size_t at = 0;
   for (const std::string step :
@@ -121,14 +266,18 @@ TEST_F(MainWindowTest, GameRunsInsideTheClickAndLeavesTheMenuAsItWas) {
   }
 }
 
-TEST_F(MainWindowTest, ClosingEndsTheLogAndQuitDoesNot) {
-  later([this] { window->close(); });
-  runEvents();
-  EXPECT_PRED2(holds, bytesOf("\\log.txt"), "LOG CLOSED ON 01/02/03 AT 04:05:06\r\n");
-  fMain_Form_Load();
-  later(mExit_Click);
-  runEvents();
+TEST_F(MainWindowTest, ClosingStoresAndEndsTheLogAndQuitDoesNot) {
+  HScroll2.value = 30;
+  run(HScroll2.scroll);
+  endBy([this] { choose("&Game", "&Quit"); });
   EXPECT_FALSE(holds(bytesOf("\\log.txt"), "CLOSED"));
+  loadStore();
+  EXPECT_EQ(musicVolume, 70);
+  setValue(HScroll2, 30);
+  endBy([this] { window->close(); });
+  EXPECT_PRED2(holds, bytesOf("\\log.txt"), "LOG CLOSED ON 01/02/03 AT 04:05:06\r\n");
+  loadStore();
+  EXPECT_EQ(musicVolume, 30);
 }
 
 }  // namespace

@@ -19,29 +19,33 @@ namespace glonks {
 // Runs `action` inside the next event loop.
 inline void later(const std::function<void()>& action) { QTimer::singleShot(0, qApp, action); }
 
-inline QWidget* shownWindow() {
+// The window of a form that is shown, with this title if one is given.
+inline QWidget* shownWindow(const QString& title = {}) {
   for (QWidget* top : QApplication::topLevelWidgets()) {
-    if (top->isVisible() && qobject_cast<QMainWindow*>(top) != nullptr) return top;
+    if (!top->isVisible() || qobject_cast<QMainWindow*>(top) == nullptr) continue;
+    if (title.isEmpty() || top->windowTitle() == title) return top;
   }
   return nullptr;
 }
 
-inline QAbstractButton* playButton(const QWidget* window) {
+inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
   for (auto* button : window->findChildren<QAbstractButton*>()) {
-    if (button->accessibleName() == "Play") return button;
+    if (button->accessibleName() == hint) return button;
   }
   return nullptr;
 }
 
 inline std::string lastMessage;  // the text of the last message box that was answered
 
-// Answers the dialog that `ask` shows by a key, after typing a text where there is a line for one.
-template <typename Ask>
-auto answered(Qt::Key key, Ask ask, const QString& typed = {}) {
-  lastMessage.clear();
+// Answers the next dialog by a key, after typing a text where there is a line for one. Gives up if
+// none comes for as many event loops as `patience` says.
+inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20) {
   later([=] {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) return;
+    if (dialog == nullptr) {
+      if (patience > 0) answerNext(key, typed, patience - 1);
+      return;
+    }
     if (const auto* message = qobject_cast<QMessageBox*>(dialog)) {
       EXPECT_EQ(message->textFormat(), Qt::PlainText);
       lastMessage = message->text().toStdString();
@@ -50,6 +54,13 @@ auto answered(Qt::Key key, Ask ask, const QString& typed = {}) {
     if (line != nullptr) line->insert(typed);
     QTest::keyClick(line != nullptr ? line : dialog, key);
   });
+}
+
+// The same for the dialog that `ask` shows.
+template <typename Ask>
+auto answered(Qt::Key key, Ask ask, const QString& typed = {}) {
+  lastMessage.clear();
+  answerNext(key, typed);
   return ask();
 }
 

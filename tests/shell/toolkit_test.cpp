@@ -77,7 +77,7 @@ struct Toolkit : testing::Test {
   QListWidget* backList = window->findChildren<QListWidget*>().at(1);
   QScrollBar* bar =  // not one inside a list
       combo->parent()->findChild<QScrollBar*>({}, Qt::FindDirectChildrenOnly);
-  QAbstractButton* spot = playButton(window);
+  QAbstractButton* spot = hotSpot(window, "Play");
 };
 
 TEST_F(Toolkit, showsTheDataAtTheirPlacesAndFollowsTheirChanges) {

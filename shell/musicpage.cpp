@@ -1,16 +1,20 @@
-#include "shell/songlist.h"
+#include "shell/musicpage.h"
 
+#include "game/model.h"
 #include "shell/menucontrols.h"
 
 namespace glonks {
 
 void popSongs() {
   clearItems(songs);
-  songs.sorted = True;
   for (const char* row : {"Paper Lanterns - Slow Parade", "The Tin Orchard - Clockwork Rain",
                           "Velvet Gears - Night Bus Home", "Low Tide Radio - Seven Rows"}) {
     addItem(songs, row);
   }
 }
+
+void HScroll2_Change() { musicVolume = HScroll2.value; }
+
+void HScroll2_Scroll() { musicVolume = HScroll2.value; }
 
 }  // namespace glonks

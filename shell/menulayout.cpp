@@ -1,0 +1,159 @@
+#include "shell/menulayout.h"
+
+#include <string>
+#include <vector>
+
+#include "game/model.h"
+#include "game/resources.h"
+#include "shell/bands.h"
+#include "shell/credits.h"
+#include "shell/fmain.h"
+#include "shell/menucontrols.h"
+#include "shell/modes.h"
+#include "shell/musicpage.h"
+#include "shell/playbutton.h"
+#include "shell/storepage.h"
+#include "shell/themes.h"
+
+namespace glonks {
+namespace {
+
+constexpr i32 formWidth = 3615;
+constexpr i32 formHeight = 5175;
+constexpr i32 widePage = 3635;
+constexpr i32 pictureTop = 120;
+constexpr i32 pictureHeight = 5070;
+
+void layOutPage(i16 index, Image& background, const char* picture,
+                const std::vector<ControlRef>& controls) {
+  Frame& page = frame[static_cast<std::size_t>(index)];
+  const i32 width = index < 5 ? formWidth : widePage;
+  place(page, {0, 0, width, formHeight});
+  place(background, {0, pictureTop, width, pictureHeight});
+  background.picture = picture;
+  page.controls = {&background};
+  page.controls.insert(page.controls.end(), controls.begin(), controls.end());
+}
+
+void layOutHotSpot(Image& spot, const Control& at, const std::string& hint, Handler click) {
+  place(spot, at);
+  spot.hint = hint;
+  spot.click = click;
+}
+
+void layOutBar(HScrollBar& bar, i16 min, i16 max, i16 largeChange) {
+  bar.min = min;
+  bar.max = max;
+  bar.value = min;
+  bar.largeChange = largeChange;
+}
+
+void layOutNewGame() {
+  place(tMode, {240, 600, 3135, 315, 4});
+  place(tModeDesc, {240, 1080, 3135, 855});
+  place(tLevels, {240, 2520, 3135, 1785, 5});
+  tMode.click = tMode_Click;
+  layOutHotSpot(main_BtnRun, {2280, 4560, 1095, 495}, "Play", main_BtnRun_Click);
+  layOutPage(0, Image7, ":/forms/page0.png", {&tMode, &tModeDesc, &tLevels, &main_BtnRun});
+}
+
+void layOutHighScores() {
+  place(scoreModes, {240, 720, 3135, 315, 0});
+  place(scores_freestyle, {240, 1440, 3135, 1980, 9});
+  scoreModes.click = scoreModes_Click;
+  layOutPage(1, Image8, ":/forms/page1.png", {&scoreModes, &scores_freestyle});
+}
+
+void layOutCredits() {
+  constexpr i32 creditsFont = 195;  // 9.75 points
+  place(Text1, {240, 720, 3135, 3735, 22});
+  Text1.fontHeight = creditsFont;
+  Text1.text = creditsText;
+  layOutPage(2, Image3, ":/forms/page2.png", {&Text1});
+}
+
+void layOutStore() {
+  constexpr i32 buttonTops[storeRows] = {1440, 2040, 2640, 3240, 3840, 4440};
+  constexpr i32 stockTops[storeRows] = {1480, 2090, 2650, 3270, 3880, 4480};
+  constexpr auto clicks = handlersOf<purchase_Click, storeRows>();
+  std::vector<ControlRef> controls = {&Image5, &tBank};
+  place(tBank, {840, 210, 375, 285});
+  for (i16 row = 0; row < storeRows; ++row) {
+    const auto i = static_cast<std::size_t>(row);
+    place(tpurchase[i], {3000, stockTops[i], row == 0 ? 265 : 270, 285});
+    layOutHotSpot(purchase[i], {2400, buttonTops[i], 375, row == 2 ? 255 : 375},
+                  std::string("Buy ") + storeItems[i].words, clicks[i]);
+    controls.insert(controls.end(), {&purchase[i], &tpurchase[i]});
+  }
+  layOutPage(3, Image4, ":/forms/store_table.png", controls);
+  place(Image4, {120, 720, 3360, 4350});
+  place(Image5, {20, 120, 1320, 570});
+  Image5.picture = ":/forms/store_bank.png";
+}
+
+void layOutBackgrounds() {
+  place(theme, {240, 600, 3135, 315, 1});
+  place(themePic, {600, 2070, 2395, 1800});
+  place(HScroll1, {240, 4380, 3135, 255, 2});
+  theme.sorted = True;
+  theme.click = theme_Click;
+  layOutBar(HScroll1, 1, platesInTheme, 1);
+  HScroll1.change = HScroll1_Change;
+  layOutPage(4, Image1, ":/forms/page4.png", {&theme, &themePic, &HScroll1});
+}
+
+void layOutMusic() {
+  place(songs, {360, 600, 2895, 2565, 14});
+  place(HScroll2, {360, 3720, 2895, 255, 3});
+  songs.sorted = True;
+  layOutBar(HScroll2, 0, loudest, 10);
+  HScroll2.change = HScroll2_Change;
+  HScroll2.scroll = HScroll2_Scroll;
+  layOutPage(5, Image9, ":/forms/page5.png", {&songs, &HScroll2});
+}
+
+void layOutBands() {
+  place(allBands, {360, 900, 2895, 2565, 24});
+  allBands.sorted = True;
+  layOutHotSpot(launch, {2160, 4440, 1095, 615}, "Open the band's page", launch_Click);
+  layOutPage(6, Image2, ":/forms/page6.png", {&allBands, &launch});
+}
+
+void layOutTitle() {
+  layOutHotSpot(Image6, {2160, 4200, 1095, 495}, "Start", Image6_Click);
+  layOutPage(7, Image10, ":/forms/page7.png", {&Image6});
+}
+
+}  // namespace
+
+void layOutMenu() {
+  fMain.caption = "Glonks";
+  fMain.width = formWidth;
+  fMain.height = formHeight;
+  fMain.unload = fMain_Form_Unload;
+  fMain.menus = {
+      {"Game", {{"New", mNew_Click}, {"Quit", mExit_Click}}},
+      {"Options",
+       {{"Spend Credits", mStore_Click},
+        {"Backgrounds", mBackgrounds_Click},
+        {"Music", mMusic_Click}}},
+      {"View",
+       {{"High Scores", mScores_Click}, {"Bands", mBands_Click}, {"Credits", mCredits_Click}}},
+      {"Help",
+       {{"About", mAbout_Click},
+        {"Manual", mManual_Click},
+        {"Pieces", mPieces_Click},
+        {"Controls", mControls_Click}}}};
+  layOutNewGame();
+  layOutHighScores();
+  layOutCredits();
+  layOutStore();
+  layOutBackgrounds();
+  layOutMusic();
+  layOutBands();
+  layOutTitle();
+  fMain.controls.clear();
+  for (Frame& page : frame) fMain.controls.emplace_back(&page);
+}
+
+}  // namespace glonks

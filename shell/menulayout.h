@@ -1,0 +1,9 @@
+#pragma once
+
+namespace glonks {
+
+// Gives fMain its inside: menus, pages, and the places, pictures, settings and handlers of all
+// controls. All pages lie at the same place; showPage tells which can be seen.
+void layOutMenu();
+
+}  // namespace glonks

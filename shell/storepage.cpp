@@ -1,0 +1,53 @@
+#include "shell/storepage.h"
+
+#include <limits>
+#include <string>
+
+#include "game/model.h"
+#include "game/text.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/store.h"
+
+namespace glonks {
+namespace {
+
+void showCount(i16 slot) {
+  const auto i = static_cast<std::size_t>(slot);
+  tpurchase[i].caption = plainNumber(itemStock[i]);
+}
+
+void showBank() { tBank.caption = plainNumber(bank); }
+
+}  // namespace
+
+void showStock() {
+  showBank();
+  for (i16 slot = 0; slot < itemKinds; ++slot) showCount(slot);
+}
+
+void purchase_Click(i16 Index) {
+  const StoreItem& item = storeItems[static_cast<std::size_t>(Index)];
+  i16& stock = itemStock[static_cast<std::size_t>(Index)];
+  const std::string words = item.words;
+  if (item.onSale == False) {
+    messageBox("You can't buy " + words + " yet.  Please choose another item.");
+    return;
+  }
+  if (bank < item.price) {
+    messageBox("Insufficient credits to make this transaction.  Sorry!");
+    return;
+  }
+  if (stock == std::numeric_limits<i16>::max()) {
+    messageBox("You have as many of these as you can hold.");
+    return;
+  }
+  const std::string price = plainNumber(item.price);
+  if (yesNoBox("Do you want to purchase " + words + " for " + price + " credits?") != True) return;
+  bank = static_cast<i16>(bank - item.price);
+  ++stock;
+  showCount(Index);
+  showBank();
+  saveStore();
+}
+
+}  // namespace glonks

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <array>
+
+#include "game/types.h"
+#include "shell/menucontrols.h"
+
+// The page Spend Credits, where credits become goods.
+namespace glonks {
+
+struct StoreItem {
+  i16 price;          // credits
+  const char* words;  // in the question
+  Flag onSale;
+};
+
+// By slot of itemStock. Names and prices are part of the page's picture too.
+inline constexpr std::array<StoreItem, storeRows> storeItems = {{
+    {2, "a Slammer", True},
+    {4, "a Bomb", True},
+    {7, "a Detonator", True},
+    {10, "a Bowling Ball", True},
+    {40, "a Bonus Song", False},
+    {40, "Midnight Bowling", False},
+}};
+
+// Sets the labels from bank and itemStock.
+void showStock();
+
+// One attempt to buy the item of a slot, 0 to 5: refuses, or asks, takes the price and stores.
+void purchase_Click(i16 Index);
+
+}  // namespace glonks

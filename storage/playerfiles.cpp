@@ -1,0 +1,103 @@
+#include "storage/playerfiles.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "game/errors.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/paths.h"
+#include "storage/scrambledfiles.h"
+#include "storage/textchannels.h"
+
+namespace glonks {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string news;  // about files made anew, that the player hasn't been told yet
+
+void readOnce(const PlayersFile& file, const std::function<void()>& read) {
+  ScrambledReader reader(pathOf(file), playersChannel);
+  read();
+  reader.close();
+}
+
+// Whether an error is about what a file holds, not about the disk or the program.
+bool isDamage(const RuntimeError& error) {
+  for (const ErrorNumber number :
+       {ErrorNumber::fileNotFound, ErrorNumber::inputPastEnd, ErrorNumber::badFile,
+        ErrorNumber::overflow, ErrorNumber::typeMismatch}) {
+    if (error.number() == static_cast<int>(number)) return true;
+  }
+  return false;
+}
+
+// A path for a damaged file that takes no other one's place.
+std::string pathAside(const std::string& path) {
+  std::string aside = path + ".damaged";
+  for (i32 next = 2; fs::exists(nativePath(aside)); ++next) {
+    aside = path + ".damaged" + std::to_string(next);
+  }
+  return aside;
+}
+
+// Gives a sentence that says what became of it.
+std::string putAside(const std::string& path) {
+  if (!fs::exists(nativePath(path))) return "is missing.";
+  const std::string aside = pathAside(path);
+  std::error_code error;
+  fs::rename(nativePath(path), nativePath(aside), error);
+  if (error) {
+    throw RuntimeError(
+        ErrorNumber::fileAccess,
+        "The file \"" + path + "\" is damaged and can't be put aside (" + error.message() + ").");
+  }
+  return "is damaged.  It is kept as \"" + aside + "\".";
+}
+
+void makeAnew(const PlayersFile& file) {
+  const std::string path = pathOf(file);
+  const std::string fate = putAside(path);
+  copyScrambledFile(firstContentsOf(file), path);
+  if (!news.empty()) news += "\n\n";
+  news += "The file \"" + path + "\" with " + file.holds + " " + fate +
+          "  A new one was made with what the game begins with.";
+}
+
+}  // namespace
+
+std::string pathOf(const PlayersFile& file) { return std::string("\\init\\") + file.name; }
+
+std::string firstContentsOf(const PlayersFile& file) {
+  return std::string("\\first\\") + file.name;
+}
+
+void readPlayersFile(const PlayersFile& file, const std::function<void()>& read) {
+  try {
+    return readOnce(file, read);
+  } catch (const RuntimeError& error) {
+    if (!isDamage(error)) throw;
+  }
+  makeAnew(file);
+  readOnce(file, read);
+}
+
+void writePlayersFile(const PlayersFile& file, const std::function<void()>& write) {
+  for (;;) {
+    try {
+      ScrambledWriter writer(pathOf(file));
+      write();
+      return writer.close();
+    } catch (const RuntimeError& error) {
+      const std::string question = std::string(error.what()) + "\n\nNot stored: " + file.holds +
+                                   ".  Do you want to try again?";
+      if (yesNoBox(question) != True) throw;
+    }
+  }
+}
+
+void tellOfNewFiles() {
+  if (!news.empty()) messageBox(std::exchange(news, ""));
+}
+
+}  // namespace glonks
