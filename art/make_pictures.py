@@ -5,7 +5,7 @@ from functools import partial
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from pictures import creatures, effects, frames, glyphs, pieces, plates, screens  # noqa: E402
+from pictures import creatures, effects, frames, glyphs, menu, pieces, plates, screens, sidewindows  # noqa: E402
 from pictures.canvas import draw_keyed  # noqa: E402
 
 ASSETS = Path(__file__).resolve().parent.parent / "assets"
@@ -37,7 +37,8 @@ def main():
     image("loading", screens.loading())
     for (theme, name), picture in plates.theme_pictures().items():
         save(picture, f"themes/{theme}/{name}.bmp")
-    save(screens.new_game_page(), "forms/page0.png")
+    for name, draw in {**menu.PAGES, **sidewindows.WINDOWS}.items():
+        save(draw(), f"forms/{name}.png")
 
 
 if __name__ == "__main__":

@@ -42,13 +42,13 @@ std::vector<std::string> readTips() {
   return tips;
 }
 
+}  // namespace
+
 std::string pickTip() {
   const std::vector<std::string> tips = readTips();
   const auto picked = static_cast<std::size_t>(drawBelow(static_cast<i32>(tips.size())));
   return tips.empty() ? greeting : tips[picked];
 }
-
-}  // namespace
 
 void fTip_Form_Load() {
   makeKeys(keySeed, keyDrawArgument, keyScale);

@@ -16,7 +16,7 @@
 namespace glonks {
 namespace {
 
-// A name as a field of the file can hold it.
+// A name as a field of the file can hold it; the field's reader takes no blanks at its ends.
 std::string storable(std::string name) {
   for (char& c : name) {
     const auto code = static_cast<unsigned char>(c);
@@ -24,7 +24,7 @@ std::string storable(std::string name) {
     if (c == '"') c = '\'';
     if (code < ' ' || code == 127) c = ' ';
   }
-  return name;
+  return trimmed(name);
 }
 
 void readTable() {

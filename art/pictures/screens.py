@@ -1,11 +1,11 @@
-"""Full pictures around the game: the loading screen and the menu page."""
+"""The loading screen, and the dark ground that it shares with the menu."""
 import math
 import random
 import cairo
 from . import creatures, pieces
 from .canvas import Canvas
 from .glyphs import lettering, text_width
-from .shapes import box, circle, ellipse, fill, rgb, sloped, stroke
+from .shapes import circle, ellipse, fill, rgb, stroke
 
 NIGHT, AMBER = rgb("141b30"), rgb("ffb52e")
 
@@ -48,31 +48,3 @@ def loading():
     for i, name in enumerate(front):
         pieces.place(ctx, p[name], 76 + i * 150, 566 - 14 * math.sin(i / 5 * math.pi), 138, turn=(-6, 5, -3, 4, -5, 6)[i])
     return canvas.opaque(.9)
-
-
-def new_game_page():
-    """Drawn in the menu's own small pixels, four picture pixels each."""
-    canvas = Canvas(964, 1352, 2)
-    ctx = canvas.ctx
-    ctx.scale(4, 4)
-    backdrop(ctx, 241, 338, 60, 20, rgb("27406e"))
-    rng = random.Random(9)
-    for _ in range(26):
-        x, y = rng.choice(((rng.uniform(0, 10), rng.uniform(0, 338)), (rng.uniform(231, 241), rng.uniform(0, 338)),
-                           (rng.uniform(0, 150), rng.uniform(286, 338)), (rng.uniform(130, 241), rng.uniform(0, 30))))
-        stroke(ctx, circle(x, y, rng.uniform(2, 9)), rgb("6ea8ff"), .5, .16)
-    lettering(ctx, "New Game", 17, 5.5, 2.55, 3.2, [AMBER], .8, 2)
-    for y, height in ((32, 21), (64, 57), (160, 119)):      # quiet wells under the controls
-        sloped(ctx, box(13.5, y - 2.5, 214, height + 5, 3), rgb("0c111f"), rgb("101729"), .7, rgb("31466f"))
-    lettering(ctx, "Level", 17, 145, 1.35, 1.5, [rgb("cfe0ff")], .3, .9)
-    for i, draw in enumerate(creatures.GLONKS.values()):
-        pieces.place(ctx, draw, 142 + i * 21, 131, 20)
-    for i, draw in enumerate((pieces.bomb, pieces.diamond, pieces.bauble)):
-        pieces.place(ctx, draw, 18 + i * 40, 296, 33, turn=(-5, 4, -3)[i])
-    x, y, w, h = 152, 296, 73, 33
-    fill(ctx, box(x, y, w, h, 5), rgb("2b1402"))
-    sloped(ctx, box(x + .8, y + .8, w - 1.6, h - 1.6, 4.4), rgb("ffd46a"), rgb("d9730c"), 0, diagonal=False)
-    fill(ctx, box(x + 2.4, y + 2, w - 4.8, h * .4, 3.6), (1, 1, 1), .22)
-    width = text_width("Play", 2.3, 3, 1.5)
-    lettering(ctx, "Play", x + (w - width) / 2, y + 6.6, 2.3, 3, [rgb("fff6e0")], .9, 1.5)
-    return canvas.opaque(.6)

@@ -51,8 +51,8 @@ class DropDown : public QComboBox {
 };
 
 // A list with at most one row selected. A tab in a row begins a second column. Rows move together
-// as far as that shows all of them without scrolling. `chosen` runs when the player has chosen a row, also the
-// one that was selected already; not when the program selects one.
+// as far as that shows all of them without scrolling. `chosen` runs when the player has chosen a
+// row, also the one that was selected already; not when the program selects one.
 class ChoiceList : public QListWidget {
  public:
   explicit ChoiceList(QWidget* parent);
