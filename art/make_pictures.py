@@ -6,13 +6,13 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 from pictures import creatures, effects, frames, glyphs, menu, pieces, plates, screens, sidewindows  # noqa: E402
-from pictures.canvas import draw_keyed  # noqa: E402
+from pictures.canvas import draw_icon, draw_keyed  # noqa: E402
 
-ASSETS = Path(__file__).resolve().parent.parent / "assets"
+ROOT = Path(__file__).resolve().parent.parent
 
 
-def save(picture, name):
-    path = ASSETS / name
+def save(picture, name, folder="assets"):
+    path = ROOT / folder / name
     path.parent.mkdir(parents=True, exist_ok=True)
     picture.save(path)
 
@@ -39,6 +39,9 @@ def main():
         save(picture, f"themes/{theme}/{name}.bmp")
     for name, draw in {**menu.PAGES, **sidewindows.WINDOWS}.items():
         save(draw(), f"forms/{name}.png")
+    save(draw_icon(creatures.glonk_round, 64), "forms/icon.png")
+    for name, draw in {**pieces.PIECES, **pieces.FRUIT, "detonator": pieces.detonator}.items():
+        save(draw_icon(draw, 112), f"pictures/{name}.png", "manual")
 
 
 if __name__ == "__main__":

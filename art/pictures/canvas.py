@@ -39,6 +39,12 @@ class Canvas:
         pixels[~drawn] = KEY
         return Image.fromarray(pixels, "RGB")
 
+    def transparent(self):
+        """The drawing alone, with soft edges."""
+        colour, alpha = self._reduced()
+        pixels = np.dstack([colour, alpha]).round().astype(np.uint8)
+        return Image.fromarray(pixels, "RGBA")
+
     def quiet(self):
         """Whole picture whose dark gradients show no bands."""
         return dithered(self._reduced()[0])
@@ -60,6 +66,14 @@ def dithered(colour):
 def to_image(colour, grain=0.0, seed=1):
     noise = np.random.default_rng(seed).normal(0, 1, colour.shape[:2])[..., None] * grain
     return Image.fromarray((colour + noise).clip(0, BRIGHTEST).round().astype(np.uint8), "RGB")
+
+
+def draw_icon(draw, size):
+    """A piece of 90 by 90 as a picture of its own, in any size."""
+    canvas = Canvas(size, size)
+    canvas.ctx.scale(size / 90, size / 90)
+    draw(canvas.ctx)
+    return canvas.transparent()
 
 
 def draw_keyed(draw, width=90, height=90):

@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QLockFile>
@@ -100,6 +101,7 @@ void startToolkit(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName(programName);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(QIcon(":/forms/icon.png"));
   applyStyle(*application);
   setAfterHandler(levelVisibleForms);
 }
