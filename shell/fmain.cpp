@@ -58,7 +58,7 @@ void boot() {
   popModes();
   popThemes();
   popSongs();
-  showAndEnable(newGamePage);  // the title page covers it
+  showAndEnable(newGamePage);  // an oddity that is kept: the title page covers it
   songIndex = -1;
 }
 

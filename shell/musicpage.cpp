@@ -13,6 +13,7 @@ void popSongs() {
   }
 }
 
+// An oddity that is kept: the volume waits for the next save of the store.
 void HScroll2_Change() { musicVolume = HScroll2.value; }
 
 void HScroll2_Scroll() { musicVolume = HScroll2.value; }

@@ -17,7 +17,7 @@ void popThemes() {
   clearItems(theme);
   addItem(theme, "Cells");
   addItem(theme, "Embers");
-  setText(theme, themeName);
+  setText(theme, themeName);  // an oddity that is kept: this writes the store, like any choice
   if (theme.listIndex < 0) setListIndex(theme, 0);
   readBands();
 }
