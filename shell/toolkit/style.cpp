@@ -84,6 +84,7 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 
 QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
+QLabel#qt_msgbox_label { min-width: 270px; }
 QPushButton {
   background: #2a2f3c;
   border: 1px solid #464e61;
