@@ -47,12 +47,13 @@ STROKES = {
     "8": "A 2 1.45 1.6 1.45 0 360 M 3.9 4.45 A 2 4.45 1.9 1.55 0 360",
     "9": "M 0.8 6 C 2.6 5.2 3.8 3.6 3.8 1.8 A 2 1.8 1.8 1.8 0 360",
     "!": "M 2 0 L 2 3.7 M 2 5.85 L 2 6",
+    "?": "M 0.3 1.5 C 0.5 -0.5 3.7 -0.5 3.7 1.5 C 3.7 2.8 2 2.7 2 4 M 2 5.85 L 2 6",
     "a": "M 3.7 4 A 1.9 4 1.8 2 0 360 M 3.7 2 L 3.7 6",
     "b": "M 0.1 4 A 1.9 4 1.8 2 180 540 M 0.1 0 L 0.1 6",
     "c": "A 1.9 4 1.9 2 -50 -310",
     "d": "M 3.7 4 A 1.9 4 1.8 2 0 360 M 3.7 0 L 3.7 6",
     "e": "M 0.2 4 L 3.8 4 A 2 4 1.8 2 0 -315",
-    "g": "M 3.7 4 A 1.9 4 1.8 2 0 360 M 3.7 2 L 3.7 6.2 A 1.9 6.2 1.8 1.6 0 150",
+    "g": "M 3.7 4 A 1.9 4 1.8 2 0 360 M 3.7 2 L 3.7 6 A 1.9 6 1.8 1.4 0 150",
     "h": "M 0 0 L 0 6 M 0 3.8 A 1.7 3.8 1.7 1.7 180 360 L 3.4 6",
     "i": "M 0 2.2 L 0 6 M 0 0.1 L 0 0.25",
     "k": "M 0 0 L 0 6 M 3.1 2 L 0 4.5 M 1.1 3.7 L 3.3 6",
@@ -137,23 +138,27 @@ def letter(ctx, name, x, y, unit, weight, colour, outline=3.0):
     ctx.restore()
 
 
-def text_width(text, unit, weight, gap):
-    width = 0
-    for c in text:
-        x0, x1 = extent(c) if c != " " else (0, 1.2)
-        width += (x1 - x0) * unit + weight + gap
-    return width - gap
-
-
-def lettering(ctx, text, x, y, unit, weight, colours, outline=3.0, gap=None):
-    """A line of text whose first stroke starts at x; capitals start at y."""
-    gap = weight * .45 if gap is None else gap
+def places(text, unit, weight, gap, kern):
+    """Left edge of each letter and of what follows the last; `kern` moves single pairs, in grid units."""
+    x, found = 0, [0]
     for i, c in enumerate(text):
         x0, x1 = extent(c) if c != " " else (0, 1.2)
+        x += (x1 - x0 + kern.get(text[i:i + 2], 0)) * unit + weight + gap
+        found.append(x)
+    return found
+
+
+def text_width(text, unit, weight, gap, kern={}):
+    return places(text, unit, weight, gap, kern)[-1] - gap
+
+
+def lettering(ctx, text, x, y, unit, weight, colours, outline=3.0, gap=None, kern={}):
+    """A line of text whose first stroke starts at x; capitals start at y."""
+    gap = weight * .45 if gap is None else gap
+    for i, (c, left) in enumerate(zip(text, places(text, unit, weight, gap, kern))):
         if c != " ":
-            letter(ctx, c, x + weight / 2 - x0 * unit, y + weight / 2, unit, weight,
+            letter(ctx, c, x + left + weight / 2 - extent(c)[0] * unit, y + weight / 2, unit, weight,
                    colours[i % len(colours)], outline)
-        x += (x1 - x0) * unit + weight + gap
 
 
 def glyph_pictures():

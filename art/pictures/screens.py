@@ -1,4 +1,4 @@
-"""The loading screen, and the dark ground that it shares with the menu."""
+"""The loading screen, and what it shares with the menu: the dark ground and the name of the game."""
 import math
 import random
 import cairo
@@ -21,6 +21,18 @@ def backdrop(ctx, width, height, x, y, glow):
     ctx.fill()
 
 
+def logo(ctx, middle, y, unit, kern={}):
+    """The name of the game, each letter in a colour of its own, with its shadow."""
+    colours = [creatures.RED, rgb("4a8cff"), rgb("3ec46a"), creatures.YELLOW, rgb("f08a2a"), rgb("b07af0")]
+    weight, outline = unit * 34 / 24, unit / 24
+    left = middle - text_width("GLONKS", unit, weight, unit, kern) / 2
+    ctx.save()
+    ctx.translate(unit * 8 / 24, unit * 10 / 24)
+    lettering(ctx, "GLONKS", left, y, unit, weight, [rgb("05070d")], 9 * outline, unit, kern)
+    ctx.restore()
+    lettering(ctx, "GLONKS", left, y, unit, weight, colours, 8 * outline, unit, kern)
+
+
 def loading():
     canvas = Canvas(1024, 768, 2)
     ctx = canvas.ctx
@@ -30,14 +42,7 @@ def loading():
         x, y, r = rng.uniform(0, 1024), rng.uniform(120, 768), rng.uniform(8, 60)
         fill(ctx, circle(x, y, r), rgb("6ea8ff"), .035)
         stroke(ctx, circle(x, y, r), rgb("6ea8ff"), 1.5, .07)
-    colours = [creatures.RED, rgb("4a8cff"), rgb("3ec46a"), creatures.YELLOW, rgb("f08a2a"), rgb("b07af0")]
-    unit, weight, gap = 24, 34, 24
-    left = 512 - text_width("GLONKS", unit, weight, gap) / 2
-    ctx.save()
-    ctx.translate(8, 10)
-    lettering(ctx, "GLONKS", left, 168, unit, weight, [rgb("05070d")], 9, gap)
-    ctx.restore()
-    lettering(ctx, "GLONKS", left, 168, unit, weight, colours, 8, gap)
+    logo(ctx, 512, 168, 24)
     floor = ellipse(512, 700, 470, 52)
     fill(ctx, floor, (.01, .015, .03), .6)
     p = {**pieces.PIECES, **pieces.FRUIT}

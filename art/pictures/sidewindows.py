@@ -1,41 +1,33 @@
 """The pictures that fill the small windows beside the main one, in logical pixels."""
+import math
 import random
-import cairo
 from . import creatures, pieces
-from .glyphs import lettering
-from .menu import AMBER, DIM, GLONKS, PALE, ground, letters, plate, well, words
-from .shapes import box, ellipse, fill, line, polygon, rgb, sloped, stroke
-
-
-def head(ctx, text, x=12, y=8):
-    lettering(ctx, text, x, y, 2.2, 2.8, [AMBER], .7, 1.8)
+from .parts import DIM, GLONKS, INK, RIM, crowd, ground, head, plate, slope, stand, well, words
+from .screens import AMBER, logo
+from .shapes import box, fill, line, polygon, rgb, sloped, stroke
 
 
 def tip():
-    canvas = ground(291, 166, 21, light=(60, 20), rings=18)
+    canvas = ground(291, 166, 21, light=(220, 30), rings=18)
     ctx = canvas.ctx
-    head(ctx, "A Tip", 12, 12)
+    head(ctx, "Did you know?", 12, 9)
+    for draw, x, y, size, turn in ((GLONKS[3], 192, 5, 44, -8), (GLONKS[0], 232, 1, 50, 5)):    # behind the panel
+        pieces.place(ctx, draw, x, y, size, turn=turn)
     well(ctx, 9, 43, 273, 113)
-    for draw, x, size, turn in ((GLONKS[3], 196, 34, -8), (GLONKS[0], 228, 38, 4), (pieces.bomb, 172, 24, 6)):
-        pieces.place(ctx, draw, x, 41 - size, size, turn=turn)
-    return canvas.quiet()
+    return canvas.indexed()
 
 
 def about():
-    canvas = ground(251, 300, 22, "34508c", (125, 110), 34)
+    canvas = ground(251, 300, 22, "34508c", (125, 130), 34)
     ctx = canvas.ctx
-    letters(ctx, 125.5, 22, 5.8)
-    words(ctx, "A falling-pieces puzzle game", 125.5, 88, 11.5, PALE, middle=True)
-    fill(ctx, ellipse(125, 172, 96, 9), (.01, .015, .03), .6)
-    for i, draw in enumerate((pieces.diamond, GLONKS[2], GLONKS[0], GLONKS[3], GLONKS[1], pieces.bomb)):
-        size = 34 if i in (0, 5) else 44
-        pieces.place(ctx, draw, (22, 52, 86, 124, 160, 200)[i], 174 - size, size, turn=(-8, 4, -4, 4, -4, 8)[i])
-    words(ctx, "Made by the Glonks makers", 125.5, 205, 12, AMBER, True, True)
-    words(ctx, "Code: MIT.  Pictures and sounds: CC BY 4.0", 125.5, 225, 9.5, DIM, middle=True)
+    logo(ctx, 125.5, 16, 5.8, {"LO": -.9})
+    words(ctx, "A falling-pieces puzzle game", 125.5, 82, 11.5, middle=True)
+    crowd(ctx, 125.5, 193)
+    words(ctx, "Made by the Glonks makers", 125.5, 226, 12, AMBER, True, True)
     plate(ctx, 40, 248, 169, 25)
-    words(ctx, "glonks.example", 124.5, 264.7, 12, rgb("3a1c02"), True, True)
-    words(ctx, "No Glonk was harmed.", 125.5, 289, 9.5, DIM, middle=True)
-    return canvas.quiet()
+    words(ctx, "glonks.example", 124.5, 264.7, 12, INK, True, True)
+    words(ctx, "Code: MIT.  Pictures and sounds: CC BY 4.0", 125.5, 288, 10, DIM, middle=True)
+    return canvas.indexed()
 
 
 SPECIMENS = [(16, 16, GLONKS[0]), (72, 16, GLONKS[1]), (128, 16, GLONKS[2]), (184, 16, GLONKS[3]),
@@ -45,35 +37,35 @@ SPECIMENS = [(16, 16, GLONKS[0]), (72, 16, GLONKS[1]), (128, 16, GLONKS[2]), (18
              (200, 160, pieces.bowling_ball), (256, 160, pieces.money), (304, 88, pieces.b_type),
              (312, 160, pieces.music)]
 NAMES = ("Glonk", "Glonk", "Glonk", "Glonk", "Slammer", "Bomb", "Bauble", "Diamond", "Calculator", "Gorgon",
-         "Shifter", "Rock", "Rock", "Rock", "Bowling Ball", "Money", "B-Type", "Music Note")
+         "Shifter", "Rock", "Rock", "Rock", "Ball", "Money", "B-Type", "Music")
+
+
+def grain(ctx, x, y, w, h):
+    """Veins of the wood of a box."""
+    rng = random.Random(5)
+    ctx.save()
+    box(x, y, w, h, 3)(ctx)
+    ctx.clip()
+    for _ in range(90):
+        at, drift = rng.uniform(y, y + h), rng.uniform(-3, 3)
+        stroke(ctx, line((x, at), (x + w, at + drift)), rgb("1f1006"), rng.uniform(.3, 1.1), .16)
+    ctx.restore()
 
 
 def specimens():
     """A wooden box with a lined compartment for each specimen."""
     canvas = ground(384, 317, 23, "2b2038", (190, 110), 0)
     ctx = canvas.ctx
-    sloped(ctx, box(4, 4, 376, 215, 4), rgb("7a4d28"), rgb("3a2110"), 1, rgb("150b04"))
-    rng = random.Random(5)
-    ctx.save()
-    box(5, 5, 374, 213, 3)(ctx)
-    ctx.clip()
-    for _ in range(70):
-        y, drift = rng.uniform(4, 219), rng.uniform(-3, 3)
-        stroke(ctx, line((0, y), (384, y + drift)), rgb("1f1006"), rng.uniform(.3, 1.1), .16)
-    ctx.restore()
+    sloped(ctx, box(2, 2, 380, 313, 4), rgb("7a4d28"), rgb("3a2110"), 1, rgb("150b04"))
+    grain(ctx, 3, 3, 378, 311)
     for (x, y, draw), name in zip(SPECIMENS, NAMES):
         sloped(ctx, box(x, y, 49, 57, 3), rgb("ded2b4"), rgb("b3a27c"), 1.2, rgb("1d1007"))
-        shade = cairo.LinearGradient(0, y, 0, y + 12)
-        shade.add_color_stop_rgba(0, 0, 0, 0, .4)
-        shade.add_color_stop_rgba(1, 0, 0, 0, 0)
-        box(x + .6, y + .6, 47.8, 14, 2.6)(ctx)
-        ctx.set_source(shade)
-        ctx.fill()
+        slope(ctx, box(x + .6, y + .6, 47.8, 14, 2.6), (0, 0, 0), y, y + 12, .4)
         pieces.place(ctx, draw, x + 5, y + 2, 39)
-        fill(ctx, box(x + 2, y + 44.5, 45, 10.5, 1), rgb("f6efd9"))
-        words(ctx, name, x + 24.5, y + 52.4, 7.4, rgb("3a2a14"), True, True)
+        fill(ctx, box(x + 1.5, y + 44, 46, 11.5, 1), rgb("f6efd9"))
+        words(ctx, name, x + 24.5, y + 52.8, 8.6, rgb("3a2a14"), True, True)
     well(ctx, 8, 224, 361, 81)
-    return canvas.quiet()
+    return canvas.indexed()
 
 
 def key_cap(ctx, x, y, w, text=None, turn=None):
@@ -86,7 +78,7 @@ def key_cap(ctx, x, y, w, text=None, turn=None):
     if turn is not None:
         ctx.save()
         ctx.translate(x + w / 2, y + 11)
-        ctx.rotate(turn * 1.5707963)
+        ctx.rotate(turn * math.pi / 2)
         fill(ctx, polygon([(0, -5), (5, 1), (1.8, 1), (1.8, 5), (-1.8, 5), (-1.8, 1), (-5, 1)], .8), rgb("f3f6ff"))
         ctx.restore()
 
@@ -107,23 +99,23 @@ KEY_ICONS = {2: pieces.slammer, 3: pieces.bomb, 4: pieces.detonator, 5: pieces.b
 def controls():
     canvas = ground(360, 360, 24, light=(90, 20))
     ctx = canvas.ctx
-    head(ctx, "The Keys", 20, 12)
-    for i, draw in enumerate(GLONKS):
-        pieces.place(ctx, draw, 232 + i * 27, 10, 26)
-    sloped(ctx, box(14, 44, 332, 304, 5), rgb("0c111f"), rgb("101729"), .7, rgb("31466f"))
+    head(ctx, "The Keys", 20, 10)
+    for i in range(4):
+        stand(ctx, i, 218 + i * 31, 44, 30)
+    sloped(ctx, box(14, 44, 332, 304, 5), rgb("0c111f"), rgb("101729"), .7, RIM)
     for i, (keys, text) in enumerate(KEY_LINES):
         y = 50 + i * 29.6
         if i:
-            stroke(ctx, line((22, y - 1.6), (338, y - 1.6)), rgb("31466f"), .5, .6)
+            stroke(ctx, line((22, y - 1.6), (338, y - 1.6)), RIM, .5, .6)
         x = 24
         for name, turn in keys:
             width = {"Enter": 40, "Alt": 32, "Esc": 32}.get(name, 27)
             key_cap(ctx, x, y, width, name, turn)
             x += width + 5
-        words(ctx, text, 112, y + 16.5, 12.5, PALE)
+        words(ctx, text, 112, y + 16.5, 12.5)
         if i in KEY_ICONS:
             pieces.place(ctx, KEY_ICONS[i], 312, y, 25)
-    return canvas.quiet()
+    return canvas.indexed()
 
 
 WINDOWS = {"tip": tip, "about": about, "specimens": specimens, "controls": controls}

@@ -37,10 +37,9 @@ void FormWindow::makeMenus() {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
     for (const MenuEntry& entry : menu.entries) {
       // Not before the menu has gone, which gives the focus back to where it was.
-      const auto choose = [&entry] { enterFromQt([&entry] { run(entry.click); }); };
-      shown->addAction(withAltKey(entry.caption), [this, choose] {
-        QMetaObject::invokeMethod(this, choose, Qt::QueuedConnection);
-      });
+      connect(
+          shown->addAction(withAltKey(entry.caption)), &QAction::triggered, this,
+          [&entry] { enterFromQt([&entry] { run(entry.click); }); }, Qt::QueuedConnection);
     }
   }
 }
