@@ -73,7 +73,8 @@ class ChapterView : public QTextBrowser {
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
     if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
-    const QImage picture(":/manual/" + name.path());
+    // Scaled in full colour: a picture with a palette would be dithered back to it.
+    const QImage picture = QImage(":/manual/" + name.path()).convertToFormat(QImage::Format_ARGB32);
     return picture.scaledToWidth(name.query().toInt(), Qt::SmoothTransformation);
   }
 };

@@ -29,7 +29,8 @@ void PictureView::fitTo(const QSize& size) {
   if (file_.isEmpty()) return;
   QImageReader reader(file_);
   reader.setDecideFormatFromContent(true);
-  const QImage image = reader.read();
+  // Scaled in full colour: a picture with a palette would be dithered back to it.
+  const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return;
   fitted_.convertFromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
