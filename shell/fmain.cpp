@@ -20,17 +20,6 @@
 namespace glonks {
 namespace {
 
-enum Page : i16 {
-  newGamePage,
-  scoresPage,
-  creditsPage,
-  storePage,
-  backgroundsPage,
-  musicPage,
-  bandsPage,
-  titlePage
-};
-
 void hidePages() {
   for (Frame& page : frame) page.visible = page.enabled = False;
 }

@@ -8,7 +8,17 @@
 // window's own modules give them their places and handlers.
 namespace glonks {
 
-inline constexpr i16 pageCount = 8;
+enum Page : i16 {
+  newGamePage,
+  scoresPage,
+  creditsPage,
+  storePage,
+  backgroundsPage,
+  musicPage,
+  bandsPage,
+  titlePage,
+  pageCount
+};
 inline std::array<Frame, pageCount> frame;
 
 // Page 0: choice of a game.

@@ -20,14 +20,14 @@ namespace {
 
 constexpr i32 formWidth = 3615;
 constexpr i32 formHeight = 5175;
-constexpr i32 widePage = 3635;
+constexpr i32 widePage = 3635;  // of the pages from musicPage on
 constexpr i32 pictureTop = 120;
 constexpr i32 pictureHeight = 5070;
 
-void layOutPage(i16 index, Image& background, const char* picture,
+void layOutPage(Page index, Image& background, const char* picture,
                 const std::vector<ControlRef>& controls) {
   Frame& page = frame[static_cast<std::size_t>(index)];
-  const i32 width = index < 5 ? formWidth : widePage;
+  const i32 width = index < musicPage ? formWidth : widePage;
   place(page, {0, 0, width, formHeight});
   place(background, {0, pictureTop, width, pictureHeight});
   background.picture = picture;
@@ -54,14 +54,15 @@ void layOutNewGame() {
   place(tLevels, {240, 2520, 3135, 1785, 5});
   tMode.click = tMode_Click;
   layOutHotSpot(main_BtnRun, {2280, 4560, 1095, 495}, "Play", main_BtnRun_Click);
-  layOutPage(0, Image7, ":/forms/page0.png", {&tMode, &tModeDesc, &tLevels, &main_BtnRun});
+  layOutPage(newGamePage, Image7, ":/forms/page0.png",
+             {&tMode, &tModeDesc, &tLevels, &main_BtnRun});
 }
 
 void layOutHighScores() {
   place(scoreModes, {240, 720, 3135, 315, 0});
   place(scores_freestyle, {240, 1440, 3135, 1980, 9});
   scoreModes.click = scoreModes_Click;
-  layOutPage(1, Image8, ":/forms/page1.png", {&scoreModes, &scores_freestyle});
+  layOutPage(scoresPage, Image8, ":/forms/page1.png", {&scoreModes, &scores_freestyle});
 }
 
 void layOutCredits() {
@@ -69,7 +70,7 @@ void layOutCredits() {
   place(Text1, {240, 720, 3135, 3735, 22});
   Text1.fontHeight = creditsFont;
   Text1.text = creditsText;
-  layOutPage(2, Image3, ":/forms/page2.png", {&Text1});
+  layOutPage(creditsPage, Image3, ":/forms/page2.png", {&Text1});
 }
 
 void layOutStore() {
@@ -85,7 +86,7 @@ void layOutStore() {
                   std::string("Buy ") + storeItems[i].words, clicks[i]);
     controls.insert(controls.end(), {&purchase[i], &tpurchase[i]});
   }
-  layOutPage(3, Image4, ":/forms/store_table.png", controls);
+  layOutPage(storePage, Image4, ":/forms/store_table.png", controls);
   place(Image4, {120, 720, 3360, 4350});
   place(Image5, {20, 120, 1320, 570});
   Image5.picture = ":/forms/store_bank.png";
@@ -99,7 +100,7 @@ void layOutBackgrounds() {
   theme.click = theme_Click;
   layOutBar(HScroll1, 1, platesInTheme, 1);
   HScroll1.change = HScroll1_Change;
-  layOutPage(4, Image1, ":/forms/page4.png", {&theme, &themePic, &HScroll1});
+  layOutPage(backgroundsPage, Image1, ":/forms/page4.png", {&theme, &themePic, &HScroll1});
 }
 
 void layOutMusic() {
@@ -109,19 +110,19 @@ void layOutMusic() {
   layOutBar(HScroll2, 0, loudest, 10);
   HScroll2.change = HScroll2_Change;
   HScroll2.scroll = HScroll2_Scroll;
-  layOutPage(5, Image9, ":/forms/page5.png", {&songs, &HScroll2});
+  layOutPage(musicPage, Image9, ":/forms/page5.png", {&songs, &HScroll2});
 }
 
 void layOutBands() {
   place(allBands, {360, 900, 2895, 2565, 24});
   allBands.sorted = True;
   layOutHotSpot(launch, {2160, 4440, 1095, 615}, "Open the band's page", launch_Click);
-  layOutPage(6, Image2, ":/forms/page6.png", {&allBands, &launch});
+  layOutPage(bandsPage, Image2, ":/forms/page6.png", {&allBands, &launch});
 }
 
 void layOutTitle() {
   layOutHotSpot(Image6, {2160, 4200, 1095, 495}, "Start", Image6_Click);
-  layOutPage(7, Image10, ":/forms/page7.png", {&Image6});
+  layOutPage(titlePage, Image10, ":/forms/page7.png", {&Image6});
 }
 
 }  // namespace
