@@ -14,8 +14,8 @@
 namespace glonks {
 
 // A folder of its own for one test, made the program's folder and deleted at the end. It has all
-// that the game reads, by links, and the player's files as they are at first; tests that write other
-// data files begin with ownDataFolders.
+// that the game reads, by links, and the player's files as they are at first; tests that write
+// other data files begin with ownDataFolders.
 class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {

@@ -50,7 +50,11 @@ struct Save {
 };
 
 const Save saves[] = {
-    {scoresFile, [] { highScores[3] = {"Newcomer", 14000}; }, saveScores, loadScores},
+    {scoresFile,
+     [] {
+       highScores[3] = {"Newcomer", 14000};
+     },
+     saveScores, loadScores},
     {storeFile, [] { bank = 1234; }, saveStore, loadStore},
     {levelsFile, [] { rewardLevelName = "Reward"; }, awardLevel, [] {}},
 };
