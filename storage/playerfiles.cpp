@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "game/errors.h"
+#include "game/text.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/paths.h"
 #include "storage/scrambledfiles.h"
@@ -65,6 +66,16 @@ void makeAnew(const PlayersFile& file) {
 }
 
 }  // namespace
+
+std::string storableText(std::string text) {
+  for (char& c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    if (c == ',') c = ';';
+    if (c == '"') c = '\'';
+    if (code < ' ' || code == 127) c = ' ';
+  }
+  return trimmed(trimmed(text).substr(0, longestStoredText));
+}
 
 std::string pathOf(const PlayersFile& file) { return std::string("\\init\\") + file.name; }
 

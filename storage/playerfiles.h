@@ -20,6 +20,12 @@ inline constexpr PlayersFile levelsFile{"6537", "the open Arcade levels"};
 // The channel on which all of them are read.
 inline constexpr i16 playersChannel = 4;
 
+// A text as a field of these files can hold it, and as it comes back when read: a comma becomes a
+// semicolon, a double quote an apostrophe, a control character a blank, and at its ends it has no
+// blanks. What is longer than longestStoredText is cut off.
+std::string storableText(std::string text);
+inline constexpr i32 longestStoredText = 40;  // characters
+
 // The path of a player's file, and of its first contents, which come with the game.
 std::string pathOf(const PlayersFile& file);
 std::string firstContentsOf(const PlayersFile& file);

@@ -8,6 +8,7 @@
 #include "game/text.h"
 #include "shell/menucontrols.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/fieldreader.h"
 #include "storage/playerfiles.h"
 #include "storage/scrambledfiles.h"
 #include "storage/textchannels.h"
@@ -20,6 +21,9 @@ std::vector<std::string> linesOfLevels() {
   readPlayersFile(levelsFile, [&lines] {
     lines.clear();
     while (!endOfFile(playersChannel)) lines.push_back(readLine(playersChannel));
+    if (lines.empty() || lines.size() % 2 != 0) {
+      badField(playersChannel, "number of the last level", "is missing.");
+    }
   });
   return lines;
 }

@@ -16,17 +16,6 @@
 namespace glonks {
 namespace {
 
-// A name as a field of the file can hold it; the field's reader takes no blanks at its ends.
-std::string storable(std::string name) {
-  for (char& c : name) {
-    const auto code = static_cast<unsigned char>(c);
-    if (c == ',') c = ';';
-    if (c == '"') c = '\'';
-    if (code < ' ' || code == 127) c = ' ';
-  }
-  return trimmed(name);
-}
-
 void readTable() {
   using Points = std::numeric_limits<i32>;
   std::array<HighScore, highScoreCount> table;
@@ -34,7 +23,7 @@ void readTable() {
   for (HighScore& entry : table) {
     const std::string which = " of entry " + plainNumber(++place);
     entry.points = readWithin(playersChannel, "points" + which, Points::min(), Points::max());
-    entry.playerName = storable(readField(playersChannel, "playerName" + which));
+    entry.playerName = storableText(readField(playersChannel, "playerName" + which));
   }
   highScores = table;
 }
@@ -68,9 +57,9 @@ void enterHighScore() {
   if (place == highScores.end()) return;
   const std::string name = inputBox(
       "Congratulations!  " + plainNumber(score) + " is a new high score!  Please enter your name.",
-      longestPlayerName);
+      longestStoredText);
   std::move_backward(place, highScores.end() - 1, highScores.end());
-  *place = {storable(name), score};
+  *place = {storableText(name), score};
   saveScores();
   loadScores();
   mScores_Click();

@@ -15,7 +15,6 @@ struct HighScore {
 };
 
 inline constexpr i16 highScoreCount = 10;
-inline constexpr i32 longestPlayerName = 40;              // characters
 inline std::array<HighScore, highScoreCount> highScores;  // the best first
 
 // Reads the table and rebuilds the list on the page. A damaged file is made anew.

@@ -55,10 +55,9 @@ void changeFile(const std::string& source, const std::string& target, ChannelMod
   for (i32 number = 1; !endOfFile(sourceChannel); ++number) {
     const std::string line = readLine(sourceChannel);
     place = "The file \"" + shown + "\" is damaged: line " + plainNumber(number);
-    if (line.size() > static_cast<std::size_t>(longestLine)) {
-      failLine("is longer than 32,767 characters.");
-    }
-    writeLine(targetChannel, change(line));
+    const std::string changed = line.size() > longestLine ? line : change(line);
+    if (changed.size() > longestLine) failLine("is longer than 32,767 characters.");
+    writeLine(targetChannel, changed);
   }
   closeChannel(sourceChannel);
   closeChannel(targetChannel);

@@ -28,8 +28,9 @@ inline constexpr i16 keySeed = 20117;
 inline constexpr i16 keyDrawArgument = 1;
 inline constexpr i16 keyScale = 211;  // the largest entry
 
-// The most characters that a line may have, plain or scrambled.
-inline constexpr i32 longestLine = 32767;
+// The most characters that a line may have, plain and scrambled. A plain line of 8,191 characters
+// always fits.
+inline constexpr std::size_t longestLine = 32767;
 
 // Path of the temp file, the plain form of a scrambled file for the length of one use.
 inline const std::string tempPath = "\\temp";

@@ -35,7 +35,7 @@ void readStore() {
                         readFlag(playersChannel, "storeFlagC")};
   const i32 notes =
       readWithin(playersChannel, "notesCollected", 0, std::numeric_limits<i32>::max());
-  const std::string theme = readField(playersChannel, "themeName");
+  const std::string theme = storableText(readField(playersChannel, "themeName"));
   const i32 volume = readWithin(playersChannel, "musicVolume", 0, loudest);
   bank = storedBank;
   itemStock = stock;

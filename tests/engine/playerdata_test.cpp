@@ -105,11 +105,11 @@ TEST_F(PlayerData, StoreHasThirteenLinesInItsOwnOrder) {
   written[written.find("\r\n2\r\n") + 2] = '1';
   EXPECT_EQ(plainOf(storeFile), written);
   // Out of range, to the nearest allowed value; a fraction to the even neighbour.
-  putPlain(storeFile, "99999\n-1\n2.5\n3.5\n0\n0\n0\n0\n0\n0\n-4\n Cells , 101\n");
+  putPlain(storeFile, "99999\n-1\n2.5\n3.5\n0\n0\n0\n0\n0\n0\n-4\n \"Cells,\" , 101\n");
   loadStore();
   EXPECT_EQ(bank, 32767);
   EXPECT_EQ(itemStock, (std::array<i16, itemKinds>{0, 2, 0, 4, 0, 0}));
-  EXPECT_TRUE(notesCollected == 0 && themeName == "Cells" && musicVolume == 100);
+  EXPECT_TRUE(notesCollected == 0 && themeName == "Cells;" && musicVolume == 100);
 }
 
 TEST_F(PlayerData, PurchaseTakesThePriceOnceTheAnswerIsYes) {
@@ -156,6 +156,10 @@ TEST_F(PlayerData, AwardedLevelIsAddedOnceToFileAndList) {
   EXPECT_EQ(plainOf(levelsFile), "One, \"two\"\r\n 17 \r\nThree\r\n 3 \r\n");
   EXPECT_EQ(tLevels.items, (Texts{"One, \"two\"", "Three"}));
   EXPECT_EQ(tLevels.itemData, (std::vector<i32>{17, 3}));
+  putPlain(levelsFile, "a level without its number\r\n");
+  rewardLevelName = "Four";
+  awardLevel();
+  EXPECT_EQ(plainOf(levelsFile), "First Steps\r\n3101\r\nFour\r\n 3 \r\n");
 }
 
 TEST_F(PlayerData, DamagedFilesAreKeptAsideAndMadeAnewWithOneMessage) {
