@@ -10,6 +10,7 @@
 #include "shell/toolkit/toolkit.h"
 #include "storage/log.h"
 #include "storage/paths.h"
+#include "storage/store.h"
 
 namespace {
 
@@ -32,12 +33,22 @@ bool holdProgramFolder() {
   return false;
 }
 
+// What the player has earned in a game that failed. A failure to store it was told and answered.
+void keepEarnings() {
+  try {
+    saveStore();
+  } catch (const std::exception&) {
+    logStep("error store not saved");
+  }
+}
+
 // The end of a run that failed: one line in the log, the screen given back, one message.
 void endFailedRun(const std::string& logged, const std::string& shown) {
   logStep("error " + logged);
   if (fConsole.hWnd != 0) {
     gameOver = True;
     destroy();
+    keepEarnings();
   }
   closeLog();
   messageBox(shown);

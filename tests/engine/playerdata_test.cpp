@@ -212,6 +212,12 @@ TEST_F(PlayerData, FailedWriteIsTriedAgainOrGivenUpAndTakesNothing) {
   EXPECT_EQ(fake::boxes.size(), 1U);
   EXPECT_EQ(bytesOf("\\init\\6702"), before);
   EXPECT_EQ(errorOf(loadStore), "no error");
+  bank = 77;
+  fake::yes = True;
+  fake::asked = [] { std::filesystem::remove(nativePath("\\init\\6702.new")); };
+  saveStore();
+  EXPECT_EQ(fake::boxes.size(), 2U);
+  EXPECT_EQ(plainOf(storeFile).substr(0, 4), "77\r\n");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ namespace fake {
 void resetToolkit() {
   boxes.clear();
   yes = False;
+  asked = nullptr;
   typed.clear();
   forms.clear();
   opened.clear();
@@ -33,6 +34,7 @@ bool startProgram(const std::string& path) {
 void messageBox(const std::string& text) { fake::boxes.push_back(text); }
 Flag yesNoBox(const std::string& question) {
   fake::boxes.push_back(question);
+  if (fake::asked) fake::asked();
   return fake::yes;
 }
 std::string inputBox(const std::string& prompt, i32 /*longest*/) {

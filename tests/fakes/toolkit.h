@@ -11,6 +11,7 @@ namespace glonks::fake {
 
 inline std::vector<std::string> boxes;   // texts of all dialogs, in order
 inline Flag yes = False;                 // what yesNoBox gives
+inline std::function<void()> asked;      // runs when yesNoBox asks
 inline std::string typed;                // what inputBox gives
 inline std::vector<std::string> forms;   // "show Glonks", "hide Glonks" ...
 inline std::vector<std::string> opened;  // addresses and programs, in order

@@ -119,6 +119,33 @@ TEST_F(MainWindowTest, MenuEntriesShowTheirPageOrWindow) {
   endBy([this] { window->close(); });  // with the others still open
 }
 
+// A hot spot lies over a button that its page's picture draws: orange with a lettering in it, and
+// none of it reaches beyond.
+TEST_F(MainWindowTest, HotSpotsLieOverTheButtonsOfTheirPictures) {
+  std::vector<std::pair<const Image*, const Image*>> spots = {
+      {&main_BtnRun, &Image7}, {&launch, &Image2}, {&Image6, &Image10}};
+  for (const Image& buy : purchase) spots.emplace_back(&buy, &Image4);
+  for (const auto& [spot, behind] : spots) {
+    const QString file = GLONKS_SOURCE "/assets" + QString::fromStdString(behind->picture).mid(1);
+    const QSize size = QSize(behind->width, behind->height) / twipsPerPixel;
+    const QImage picture = QImage(file).scaled(size);
+    ASSERT_FALSE(picture.isNull()) << file.toStdString();
+    const QRect area(spot->left - behind->left, spot->top - behind->top, spot->width, spot->height);
+    int inside = 0;
+    int around = 0;
+    for (int i = 0; i < size.width() * size.height(); ++i) {
+      const QPoint at(i % size.width(), i / size.width());
+      const QColor colour = picture.pixelColor(at);
+      if (colour.red() < 150 || colour.red() < colour.blue() + 60) continue;
+      if (area.contains(at * twipsPerPixel)) ++inside;
+      if (area.adjusted(-90, -90, 90, 90).contains(at * twipsPerPixel)) ++around;
+    }
+    EXPECT_GT(inside * twipsPerPixel * twipsPerPixel, 0.6 * area.width() * area.height())
+        << spot->hint;
+    EXPECT_EQ(around, inside) << spot->hint;
+  }
+}
+
 TEST_F(MainWindowTest, SpecimensTellAboutThemselvesUntilTheBoxIsClosed) {
   const std::pair<std::size_t, const char*> beginnings[] = {
       {0, "Glonks are"},    {3, "Glonks are"},    {4, "Slammers"}, {5, "Bombs"},     {6, "Baubles"},
