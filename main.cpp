@@ -1,15 +1,15 @@
 #include <exception>
 #include <string>
 
-#include "game/errors.h"
-#include "game/model.h"
-#include "game/text.h"
-#include "present/console.h"
-#include "present/display.h"
+#include "base/errors.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "present/screen/display.h"
+#include "present/screen/fconsole.h"
 #include "shell/ftip.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/log.h"
-#include "storage/paths.h"
+#include "storage/files/log.h"
 #include "storage/store.h"
 
 namespace {
@@ -36,7 +36,7 @@ bool holdProgramFolder() {
 // What the player has earned in a game that failed. A failure to store it was told and answered.
 void keepEarnings() {
   try {
-    saveStore();
+    writeStore();
   } catch (const std::exception&) {
     logStep("error store not saved");
   }

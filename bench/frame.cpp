@@ -13,20 +13,20 @@
 #include <utility>
 #include <vector>
 
-#include "game/loadresources.h"
-#include "game/model.h"
-#include "game/resources.h"
-#include "game/text.h"
-#include "present/counters.h"
-#include "present/display.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "game/loading/loadresources.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
+#include "game/modes.h"
 #include "present/effectdrawing.h"
+#include "present/effects/ticker.h"
 #include "present/fielddrawing.h"
-#include "present/keyedpicture.h"
+#include "present/itemdisplay.h"
+#include "present/screen/display.h"
+#include "present/screen/keyedpicture.h"
 #include "present/services/directsound.h"
-#include "present/ticker.h"
 #include "present/tickerdrawing.h"
-#include "shell/menucontrols.h"
-#include "storage/paths.h"
 
 // One full frame composed three ways, in one run: by the game's own surfaces, by the same blits
 // made plainly with SDL, and with a QPainter on a QImage. bench_frame [--benchmark...] <game
@@ -132,8 +132,7 @@ void setUpOurs() {
   backBuffer = std::make_shared<DirectDrawSurface7>(1024, 768);
   backBuffer->SetForeColor(RGB(255, 255, 255));
   backBuffer->SetFont({"Times New Roman", 12});
-  addItem(tMode, "Freestyle");
-  setText(tMode, "Freestyle");
+  gameMode = modeTitled("Freestyle");
   loadPictures();
   SurfaceDesc desc;
   plateSurface = dd->CreateSurfaceFromFile("\\themes\\Cells\\plate_01.bmp", desc);
@@ -142,7 +141,7 @@ void setUpOurs() {
   }
   for (i16 row = 0; row < rowCount; ++row) {
     for (i16 column = 0; column < columnCount; ++column) {
-      Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+      Cell& cell = cellAt(row, column);
       cell.occupied = True;
       cell.imageIndex = static_cast<i16>(kindAt(row, column));
       cell.column = column;

@@ -8,18 +8,18 @@
 #include <iostream>
 #include <vector>
 
-#include "game/gametick.h"
-#include "game/model.h"
-#include "game/text.h"
-#include "present/effects.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "game/model/gametick.h"
+#include "game/model/model.h"
+#include "present/effects/effects.h"
+#include "present/effects/ticker.h"
 #include "present/services/screen.h"
-#include "present/ticker.h"
 #include "shell/ftip.h"
 #include "shell/menucontrols.h"
-#include "shell/modes.h"
+#include "shell/newgamepage.h"
 #include "shell/playbutton.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/paths.h"
 
 // A real game on the screen at hand, with a busy board and all effects: bench_game <game folder>
 // [seconds]. Tells the time from the click on Play to the first frame, the frame period, the time
@@ -55,12 +55,11 @@ double cpuSeconds() {
 void keepBusy() {
   for (i16 row = 0; row < rowCount; ++row) {
     for (i16 column = 0; column < columnCount; ++column) {
-      Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+      Cell& cell = cellAt(row, column);
       if (row == rowCount - 1) {
         cell.occupied = False;
       } else if (cell.occupied == False) {
-        static_cast<Piece&>(cell) =
-            pieceCatalog[static_cast<std::size_t>(2 + (row * 7 + column) % 17)];
+        static_cast<Piece&>(cell) = catalogEntry(2 + (row * 7 + column) % 17);
         cell.occupied = True;
         cell.column = column;
         cell.y = floorOf(row);

@@ -9,19 +9,18 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
+#include "base/text.h"
 #include "game/arcade.h"
-#include "game/gamereset.h"
-#include "game/gametick.h"
-#include "game/levels.h"
-#include "game/model.h"
-#include "game/pieces.h"
-#include "game/text.h"
-#include "present/console.h"
-#include "present/display.h"
+#include "game/loading/levels.h"
+#include "game/loading/newgame.h"
+#include "game/loading/pieces.h"
+#include "game/model/gametick.h"
+#include "game/model/model.h"
 #include "present/keys.h"
-#include "shell/menucontrols.h"
-#include "storage/paths.h"
-#include "storage/scrambledfiles.h"
+#include "present/screen/display.h"
+#include "present/screen/fconsole.h"
+#include "storage/files/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/random.h"
 #include "tests/fakes/sound.h"
@@ -77,7 +76,7 @@ Board boardInView() {
   Board board;
   for (i32 row = 0; row < rowCount; ++row) {
     for (i32 column = 0; column < columnCount; ++column) {
-      const Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+      const Cell& cell = cellAt(row, column);
       if (cell.occupied == True) board.at(row, column) = &cell;
     }
   }
@@ -288,7 +287,7 @@ void setUp(const std::string& gameFolder) {
   makeKeys(keySeed, keyDrawArgument, keyScale);
   fConsole_Show(readKeys);
   initDX();
-  clearItems(songs);
+  songNames.clear();
   // Popups, goals and ticker live by being drawn; on one pixel that costs next to nothing.
   backBuffer = std::make_shared<DirectDrawSurface7>(1, 1);
   backBuffer->SetFont(gameFont);

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "game/loadresources.h"
-#include "game/model.h"
+#include "game/loading/loadresources.h"
+#include "game/model/model.h"
 #include "game/playloop.h"
-#include "present/display.h"
-#include "rules/timedpieces.h"
+#include "present/screen/display.h"
+#include "rules/boardscan.h"
 #include "rules/timer.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/sound.h"
@@ -96,7 +96,7 @@ Piece armed(char letter, i16 column, i16 y) {
 void set(const Board& board) {
   for (i16 row = 0; row < rowCount; ++row) {
     for (i16 column = 0; column < columnCount; ++column) {
-      Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+      Cell& cell = cellAt(row, column);
       const char letter = board[static_cast<std::size_t>(rowCount - 1 - row)][column];
       if (letter == '.') {
         cell.occupied = False;
@@ -142,7 +142,7 @@ void setUp() {
   loadSamples();
   pieceCatalogUpper = -1;
   for (const auto& [letter, piece] : pieces) {
-    pieceCatalog[static_cast<std::size_t>(++pieceCatalogUpper)] = piece;
+    catalogEntry(++pieceCatalogUpper) = piece;
   }
   playfield = {};
 }

@@ -2,16 +2,16 @@
 
 #include <set>
 
-#include "game/errors.h"
-#include "game/model.h"
+#include "base/errors.h"
+#include "base/text.h"
+#include "game/model/model.h"
 #include "game/playloop.h"
-#include "game/text.h"
-#include "present/applause.h"
-#include "present/display.h"
+#include "present/effects/applause.h"
+#include "present/effects/ticker.h"
 #include "present/goaldisplay.h"
-#include "present/ticker.h"
+#include "present/screen/display.h"
 #include "rules/generation.h"
-#include "storage/log.h"
+#include "storage/files/log.h"
 
 namespace glonks {
 namespace {

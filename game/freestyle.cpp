@@ -1,13 +1,13 @@
 #include "game/freestyle.h"
 
-#include "game/gametick.h"
-#include "game/model.h"
+#include "base/random.h"
+#include "base/text.h"
+#include "game/model/gametick.h"
+#include "game/model/model.h"
 #include "game/playloop.h"
-#include "game/random.h"
-#include "game/text.h"
-#include "present/display.h"
+#include "present/effects/ticker.h"
 #include "present/frogparade.h"
-#include "present/ticker.h"
+#include "present/screen/display.h"
 #include "rules/generation.h"
 
 namespace glonks {

@@ -1,19 +1,19 @@
 #include "game/playloop.h"
 
-#include "game/gametick.h"
-#include "game/model.h"
-#include "present/counters.h"
-#include "present/display.h"
+#include "game/model/gametick.h"
+#include "game/model/model.h"
 #include "present/effectdrawing.h"
 #include "present/fielddrawing.h"
+#include "present/itemdisplay.h"
 #include "present/keys.h"
 #include "present/music.h"
+#include "present/screen/display.h"
+#include "present/screen/messages.h"
 #include "present/tickerdrawing.h"
+#include "rules/boardscan.h"
 #include "rules/falling.h"
 #include "rules/generation.h"
-#include "rules/timedpieces.h"
-#include "shell/toolkit/toolkit.h"
-#include "storage/log.h"
+#include "storage/files/log.h"
 
 namespace glonks {
 namespace {

@@ -1,9 +1,9 @@
 #include "present/effectdrawing.h"
 
-#include "game/model.h"
-#include "game/resources.h"
-#include "game/text.h"
-#include "present/display.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 namespace {
@@ -66,7 +66,7 @@ void drawPopups() {
   for (ScorePopup& popup : scorePopups) {
     backBuffer->DrawText(popup.x + effectOrigin, popup.y + effectOrigin, signedNumber(popup.points),
                          False);
-    popup.y = held<i16>(i32{popup.y} - popupStep);
+    popup.y = clamped<i16>(i32{popup.y} - popupStep);
   }
   // An oddity that is kept: points count only when their popup has climbed out. Those that still
   // climb when a game ends are lost.

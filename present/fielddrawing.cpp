@@ -1,8 +1,8 @@
 #include "present/fielddrawing.h"
 
-#include "game/model.h"
-#include "game/resources.h"
-#include "present/display.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 namespace {
@@ -20,9 +20,8 @@ constexpr i32 pointerTop = 620;  // at row 0
 void drawPiece(i16 imageIndex, i16 column, i16 y) {
   const i32 left = column * cellPitch + fieldLeft;
   const i32 top = y + fieldTop;
-  backBuffer->Blt({left, top, left + pieceSize, top + pieceSize},
-                  pieceCatalog[static_cast<std::size_t>(imageIndex)].surface, pieceSource,
-                  bltKeyed);
+  backBuffer->Blt({left, top, left + pieceSize, top + pieceSize}, catalogEntry(imageIndex).surface,
+                  pieceSource, bltKeyed);
 }
 
 void drawField() {

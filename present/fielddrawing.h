@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Module mPaint: what one frame of play shows of the field. All of it draws on backBuffer.
 namespace glonks {

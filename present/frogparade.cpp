@@ -1,9 +1,9 @@
 #include "present/frogparade.h"
 
-#include "game/gametick.h"
-#include "game/random.h"
-#include "game/resources.h"
-#include "present/display.h"
+#include "base/random.h"
+#include "game/model/gametick.h"
+#include "game/model/resources.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 namespace {

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <string>
 
-#include "game/gametick.h"
-#include "game/text.h"
-#include "present/applause.h"
-#include "present/display.h"
-#include "present/ticker.h"
+#include "base/text.h"
+#include "game/model/gametick.h"
+#include "present/effects/applause.h"
+#include "present/effects/ticker.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 namespace {

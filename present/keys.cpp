@@ -1,15 +1,15 @@
 #include "present/keys.h"
 
-#include "game/gametick.h"
-#include "game/resources.h"
-#include "present/console.h"
-#include "present/display.h"
+#include "game/model/gametick.h"
+#include "game/model/resources.h"
 #include "present/music.h"
+#include "present/screen/display.h"
+#include "present/screen/fconsole.h"
+#include "present/screen/messages.h"
 #include "present/services/bass.h"
 #include "present/services/window.h"
 #include "rules/items.h"
 #include "rules/rowshift.h"
-#include "shell/toolkit/toolkit.h"
 
 namespace glonks {
 namespace {

@@ -1,6 +1,6 @@
 #include "present/loadingscreen.h"
 
-#include "present/display.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 

@@ -3,12 +3,11 @@
 #include <set>
 #include <string>
 
-#include "game/model.h"
-#include "game/random.h"
-#include "present/display.h"
+#include "base/random.h"
+#include "game/model/model.h"
+#include "present/screen/display.h"
 #include "present/services/bass.h"
-#include "shell/menucontrols.h"
-#include "storage/log.h"
+#include "storage/files/log.h"
 
 namespace glonks {
 namespace {
@@ -18,7 +17,7 @@ constexpr i32 keepPan = -101;
 constexpr i32 songLineX = 80;
 constexpr i32 songLineY = 723;
 
-// Rows of `songs` that could not be opened in this game.
+// Positions in songNames of songs that could not be opened in this game.
 std::set<i16> failedSongs;
 
 i16 drawSong(i32 count) {
@@ -36,12 +35,12 @@ void logFailedSong() {
 }  // namespace
 
 void nextSong() {
-  const auto count = static_cast<i32>(songs.items.size());
+  const auto count = static_cast<i32>(songNames.size());
   BASS_StreamFree(musicStream);
   musicStream = 0;
   if (count > 0) {
     const i16 draw = drawSong(count);
-    songTitle = songs.items[static_cast<std::size_t>(draw)];
+    songTitle = songNames[static_cast<std::size_t>(draw)];
     musicStream = BASS_StreamCreateFile(0, "\\music\\" + songTitle, 0, 0, 0);
     BASS_ChannelSetAttributes(musicStream, keepFrequency, musicVolume, keepPan);
     songIndex = draw;
@@ -55,7 +54,7 @@ void showSongLine() {
   const std::string notice = takeSoundNotice();
   if (!notice.empty()) logStep(notice);
   if (BASS_ChannelIsActive(musicStream) != 0) return;
-  if (failedSongs.size() < songs.items.size()) nextSong();
+  if (failedSongs.size() < songNames.size()) nextSong();
 }
 
 void forgetFailedSongs() { failedSongs.clear(); }

@@ -2,7 +2,7 @@
 
 namespace glonks {
 
-// Ends the song and starts another one of the list `songs`, drawn at random and never the same
+// Ends the song and starts another one of songNames, drawn at random and never the same
 // twice in a row, unless the list has only one. A song that can't be opened leaves a line in the
 // log, once in a game, and silence.
 void nextSong();

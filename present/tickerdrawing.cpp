@@ -1,7 +1,7 @@
 #include "present/tickerdrawing.h"
 
-#include "game/model.h"
-#include "present/display.h"
+#include "game/model/model.h"
+#include "present/screen/display.h"
 
 namespace glonks {
 namespace {

@@ -1,8 +1,8 @@
 #include "rules/bowling.h"
 
-#include "game/model.h"
-#include "game/resources.h"
-#include "present/effects.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
+#include "present/effects/effects.h"
 #include "rules/removal.h"
 
 namespace glonks {
@@ -11,13 +11,13 @@ void bowlOver(i16 row, i16 column) {
   _bowling01->Play(0);
   removePiece(row, column);
   // The cell that has just been emptied still holds its y.
-  const Cell& cell = playfield[static_cast<std::size_t>(row)][column];
+  const Cell& cell = cellAt(row, column);
   pushImpact(effectX(column), effectY(cell.y), True);
 }
 
 void openFullColumn(i16 column) {
   constexpr i16 topRow = rowCount - 1;
-  if (playfield[topRow][column].occupied == True) bowlOver(topRow, column);
+  if (cellAt(topRow, column).occupied == True) bowlOver(topRow, column);
 }
 
 }  // namespace glonks

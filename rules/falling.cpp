@@ -1,8 +1,8 @@
 #include "rules/falling.h"
 
-#include "game/model.h"
-#include "game/random.h"
-#include "game/resources.h"
+#include "base/random.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
 #include "rules/bowling.h"
 
 namespace glonks {
@@ -32,7 +32,7 @@ void bounce(Piece& piece, i16 floor) {
 
 i16 firstFreeRow(i16 column) {
   for (i16 row = 0; row < rowCount; ++row) {
-    if (playfield[static_cast<std::size_t>(row)][column].occupied == False) return row;
+    if (cellAt(row, column).occupied == False) return row;
   }
   return 0;  // an oddity that is kept: a piece falls through a full column before the game is lost
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 // How pieces in flight move, bounce and come to rest.
 namespace glonks {

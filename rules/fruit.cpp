@@ -3,12 +3,12 @@
 #include <array>
 #include <string>
 
-#include "game/errors.h"
-#include "game/model.h"
-#include "game/text.h"
-#include "present/display.h"
-#include "present/keyedpicture.h"
-#include "storage/log.h"
+#include "base/errors.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "present/screen/display.h"
+#include "present/screen/keyedpicture.h"
+#include "storage/files/log.h"
 
 namespace glonks {
 namespace {
@@ -24,12 +24,12 @@ void turnToFruit(Piece& piece) {
   if (fruit < fruitPictures.size()) {
     piece.surface = loadKeyedPicture(fruitPictures[fruit], piece.surfaceDesc);
   }
-  piece.value = held<i32>(i64{piece.value} + fruitValue);
+  piece.value = clamped<i32>(i64{piece.value} + fruitValue);
 }
 
 void turnAllToFruit() {
   for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
-    turnToFruit(pieceCatalog[static_cast<std::size_t>(slot)]);
+    turnToFruit(catalogEntry(slot));
   }
   for (Piece& piece : fallingPieces) turnToFruit(piece);
   for (Row& row : playfield) {

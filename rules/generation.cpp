@@ -1,9 +1,9 @@
 #include "rules/generation.h"
 
-#include "game/catalogue.h"
-#include "game/clock.h"
-#include "game/model.h"
-#include "game/random.h"
+#include "base/clock.h"
+#include "base/random.h"
+#include "game/model/catalogue.h"
+#include "game/model/model.h"
 #include "rules/bowling.h"
 #include "rules/timer.h"
 
@@ -45,7 +45,7 @@ void spawnPiece() {
   // Where ranges overlap the highest slot wins. An oddity that is kept: a slot that the level
   // doesn't name has the range 0 to 0, and so takes part in draw 0.
   for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
-    const Piece& entry = pieceCatalog[static_cast<std::size_t>(slot)];
+    const Piece& entry = catalogEntry(slot);
     if (entry.spawnLow <= draw && entry.spawnHigh >= draw) piece = entry;
   }
   enter(piece);
@@ -57,7 +57,7 @@ void spawnPiece() {
 
 Piece& dropNamed(const std::string& name) {
   Piece& piece = grow(fallingPieces, fallingPiecesUpper);
-  piece = pieceCatalog[static_cast<std::size_t>(slotNamed(name))];
+  piece = catalogEntry(slotNamed(name));
   enter(piece);
   return piece;
 }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "game/model.h"
+#include "game/model/model.h"
 
 // How pieces come into play.
 namespace glonks {

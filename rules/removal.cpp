@@ -4,12 +4,12 @@
 #include <array>
 #include <cstdlib>
 
-#include "game/gametick.h"
-#include "game/random.h"
-#include "game/resources.h"
-#include "present/applause.h"
-#include "present/effects.h"
-#include "present/ticker.h"
+#include "base/random.h"
+#include "game/model/gametick.h"
+#include "game/model/resources.h"
+#include "present/effects/applause.h"
+#include "present/effects/effects.h"
+#include "present/effects/ticker.h"
 #include "rules/fruit.h"
 #include "rules/rowshift.h"
 
@@ -20,8 +20,6 @@ constexpr i16 baubleSpawns = 3;  // pieces that a Bauble removed too early queue
 constexpr i16 lastSpreadColumn = 6;
 constexpr std::size_t glonkVarieties = 4;  // 1 to 4
 constexpr i32 fruitPoints = 5000;
-
-Cell& cellAt(i32 row, i32 column) { return playfield[static_cast<std::size_t>(row)][column]; }
 
 // An oddity that is kept: a Bauble that is overdue, but hasn't been scanned yet, counts for no
 // piece goal, though it queues its pieces.
@@ -41,13 +39,13 @@ void countBType() {
 
 void pay(const Cell& cell) {
   if (cell.isMoney == True) {
-    bank = held<i16>(i32{bank} + 1);
+    bank = clamped<i16>(i32{bank} + 1);
     _coin01->Play(0);
   } else if (cell.name == "Music") {
     _music01->Play(0);
-    notesCollected = held<i32>(i64{notesCollected} + 1);
+    notesCollected = clamped<i32>(i64{notesCollected} + 1);
   } else {
-    pushPopup(effectX(cell.column), effectY(cell.y), held<i32>(std::abs(i64{cell.value})));
+    pushPopup(effectX(cell.column), effectY(cell.y), clamped<i32>(std::abs(i64{cell.value})));
   }
 }
 
@@ -101,7 +99,7 @@ void removePiece(i16 row, i16 column) {
   if (cell.isGorgon == True) _gorgon02->Play(0);
   if (cell.isBauble == True) {
     _bauble01->Play(0);
-    pendingSpawns = held<i16>(i32{pendingSpawns} + baubleSpawns);
+    pendingSpawns = clamped<i16>(i32{pendingSpawns} + baubleSpawns);
   }
   if (cell.name == "BType") countBType();
   pay(cell);

@@ -1,7 +1,7 @@
 #include "rules/rowshift.h"
 
-#include "game/model.h"
-#include "game/resources.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
 
 namespace glonks {
 
@@ -25,10 +25,10 @@ void shiftRow(Flag toLeft) {
 
 void settlePieces() {
   constexpr i16 bouncesOfSettling = 4;
-  for (std::size_t row = 1; row < playfield.size(); ++row) {
+  for (i32 row = 1; row < rowCount; ++row) {
     for (i32 column = 0; column < columnCount; ++column) {
-      Cell& cell = playfield[row][column];
-      if (cell.occupied != True || playfield[row - 1][column].occupied != False) continue;
+      Cell& cell = cellAt(row, column);
+      if (cell.occupied != True || cellAt(row - 1, column).occupied != False) continue;
       Piece& piece = grow(fallingPieces, fallingPiecesUpper);
       piece = cell;
       piece.bounces = bouncesOfSettling;

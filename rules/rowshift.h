@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 namespace glonks {
 

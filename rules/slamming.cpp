@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "game/model.h"
-#include "game/text.h"
-#include "present/effects.h"
-#include "present/ticker.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "present/effects/effects.h"
+#include "present/effects/ticker.h"
 #include "rules/removal.h"
 #include "rules/rowshift.h"
 
@@ -61,9 +61,7 @@ Elimination placeAt(const Segment& segment, i16 at, Flag horizontal) {
   return {at, segment.line, horizontal};
 }
 
-Cell& cellAt(const Elimination& place) {
-  return playfield[static_cast<std::size_t>(place.row)][place.column];
-}
+Cell& cellAt(const Elimination& place) { return glonks::cellAt(place.row, place.column); }
 
 // Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
 // Slammers counts as well. An oddity that is kept: the Slammers themselves aren't looked at, so one
@@ -105,7 +103,7 @@ void eliminate(const Elimination& place) {
   const Cell& cell = cellAt(place);
   if (cell.occupied != True) return;
   removePiece(place.row, place.column);
-  pushZap(static_cast<i16>(cellPitch * cell.column + zapLeft), held<i16>(i32{cell.y} + zapTop),
+  pushZap(static_cast<i16>(cellPitch * cell.column + zapLeft), clamped<i16>(i32{cell.y} + zapTop),
           place.horizontal);
 }
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 namespace glonks {
 

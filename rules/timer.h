@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/model.h"
+#include "game/model/model.h"
 
 namespace glonks {
 

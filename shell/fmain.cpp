@@ -1,32 +1,43 @@
 #include "shell/fmain.h"
 
-#include "game/clock.h"
-#include "game/model.h"
-#include "game/random.h"
+#include "base/clock.h"
+#include "base/random.h"
+#include "game/model/model.h"
+#include "shell/backgroundspage.h"
+#include "shell/bandspage.h"
+#include "shell/creditspage.h"
 #include "shell/fcontrols.h"
 #include "shell/fpieces.h"
 #include "shell/fsplash.h"
 #include "shell/menucontrols.h"
 #include "shell/menulayout.h"
-#include "shell/modes.h"
 #include "shell/musicpage.h"
+#include "shell/newgamepage.h"
+#include "shell/pages.h"
+#include "shell/scorespage.h"
 #include "shell/storepage.h"
-#include "shell/themes.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/log.h"
-#include "storage/scores.h"
-#include "storage/store.h"
+#include "storage/files/log.h"
 
 namespace glonks {
 namespace {
 
-void hidePages() {
-  for (Frame& page : frame) page.visible = page.enabled = False;
-}
-
-void showAndEnable(i16 page) {
-  Frame& shown = frame[static_cast<std::size_t>(page)];
-  shown.visible = shown.enabled = True;
+void addMenus() {
+  fMain.caption = "Glonks";
+  fMain.unload = fMain_Form_Unload;
+  fMain.menus = {
+      {"Game", {{"New", mNew_Click}, {"Quit", mExit_Click}}},
+      {"Options",
+       {{"Spend Credits", mStore_Click},
+        {"Backgrounds", mBackgrounds_Click},
+        {"Music", mMusic_Click}}},
+      {"View",
+       {{"High Scores", mScores_Click}, {"Bands", mBands_Click}, {"Credits", mCredits_Click}}},
+      {"Help",
+       {{"About", mAbout_Click},
+        {"Manual", mManual_Click},
+        {"Pieces", mPieces_Click},
+        {"Controls", mControls_Click}}}};
 }
 
 }  // namespace
@@ -35,10 +46,11 @@ void fMain_Form_Load() {
   logEnabled = True;
   openLog();
   rtcRandomize(clockSeed());
+  addMenus();
   layOutMenu();
   hidePages();
   boot();
-  showAndEnable(titlePage);
+  addPage(titlePage);
 }
 
 void boot() {
@@ -47,13 +59,8 @@ void boot() {
   popModes();
   popThemes();
   popSongs();
-  showAndEnable(newGamePage);  // an oddity that is kept: the title page covers it
+  addPage(newGamePage);  // an oddity that is kept: the title page covers it
   songIndex = -1;
-}
-
-void showPage(i16 page) {
-  hidePages();
-  showAndEnable(page);
 }
 
 void fMain_Form_Unload() {
@@ -63,24 +70,7 @@ void fMain_Form_Unload() {
   endProgram();
 }
 
-void mNew_Click() { showPage(newGamePage); }
-
 void mExit_Click() { endProgram(); }
-
-void mStore_Click() {
-  showPage(storePage);
-  showStock();
-}
-
-void mBackgrounds_Click() { showPage(backgroundsPage); }
-
-void mMusic_Click() { showPage(musicPage); }
-
-void mScores_Click() { showPage(scoresPage); }
-
-void mBands_Click() { showPage(bandsPage); }
-
-void mCredits_Click() { showPage(creditsPage); }
 
 void mAbout_Click() { showForm(fSplash, fSplash_Form_Load); }
 
@@ -92,9 +82,5 @@ void mManual_Click() {
 void mPieces_Click() { showForm(fPieces, fPieces_Form_Load); }
 
 void mControls_Click() { showForm(fControls, fControls_Form_Load); }
-
-void Image6_Click() { mNew_Click(); }
-
-void scoreModes_Click() { scores_freestyle.visible = flagOf(textOf(scoreModes) == "Freestyle"); }
 
 }  // namespace glonks

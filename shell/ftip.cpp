@@ -3,15 +3,16 @@
 #include <string>
 #include <vector>
 
-#include "game/clock.h"
-#include "game/errors.h"
-#include "game/model.h"
-#include "game/random.h"
+#include "base/clock.h"
+#include "base/errors.h"
+#include "base/growinglist.h"
+#include "base/random.h"
 #include "shell/fmain.h"
+#include "shell/menucontrols.h"
+#include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/playerfiles.h"
-#include "storage/scrambledfiles.h"
-#include "storage/textchannels.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
 
 namespace glonks {
 namespace {

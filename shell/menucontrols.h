@@ -4,9 +4,11 @@
 
 #include "shell/toolkit/controls.h"
 
-// The controls of the main window under their names, as plain data that all modules may read. The
-// window's own modules give them their places and handlers.
+// The controls of the main window under their names, as plain data. Menulayout gives them their
+// places and handlers.
 namespace glonks {
+
+inline Form fMain;
 
 enum Page : i16 {
   newGamePage,

@@ -3,17 +3,17 @@
 #include <string>
 #include <vector>
 
-#include "game/model.h"
-#include "game/resources.h"
-#include "shell/bands.h"
-#include "shell/credits.h"
-#include "shell/fmain.h"
+#include "game/model/model.h"
+#include "game/model/resources.h"
+#include "shell/backgroundspage.h"
+#include "shell/bandspage.h"
+#include "shell/creditspage.h"
 #include "shell/menucontrols.h"
-#include "shell/modes.h"
 #include "shell/musicpage.h"
+#include "shell/newgamepage.h"
 #include "shell/playbutton.h"
+#include "shell/scorespage.h"
 #include "shell/storepage.h"
-#include "shell/themes.h"
 
 namespace glonks {
 namespace {
@@ -128,23 +128,8 @@ void layOutTitle() {
 }  // namespace
 
 void layOutMenu() {
-  fMain.caption = "Glonks";
   fMain.width = formWidth;
   fMain.height = formHeight;
-  fMain.unload = fMain_Form_Unload;
-  fMain.menus = {
-      {"Game", {{"New", mNew_Click}, {"Quit", mExit_Click}}},
-      {"Options",
-       {{"Spend Credits", mStore_Click},
-        {"Backgrounds", mBackgrounds_Click},
-        {"Music", mMusic_Click}}},
-      {"View",
-       {{"High Scores", mScores_Click}, {"Bands", mBands_Click}, {"Credits", mCredits_Click}}},
-      {"Help",
-       {{"About", mAbout_Click},
-        {"Manual", mManual_Click},
-        {"Pieces", mPieces_Click},
-        {"Controls", mControls_Click}}}};
   layOutNewGame();
   layOutHighScores();
   layOutCredits();

@@ -2,8 +2,8 @@
 
 namespace glonks {
 
-// Gives fMain its inside: menus, pages, and the places, pictures, settings and handlers of all
-// controls. All pages lie at the same place; showPage tells which can be seen.
+// Gives fMain its inside: pages, and the places, pictures, settings and handlers of all controls.
+// All pages lie at the same place; showPage tells which can be seen.
 void layOutMenu();
 
 }  // namespace glonks

@@ -1,9 +1,12 @@
 #include "shell/musicpage.h"
 
-#include "game/model.h"
+#include "game/model/model.h"
 #include "shell/menucontrols.h"
+#include "shell/pages.h"
 
 namespace glonks {
+
+void mMusic_Click() { showPage(musicPage); }
 
 void popSongs() {
   clearItems(songs);
@@ -11,6 +14,7 @@ void popSongs() {
                           "Velvet Gears - Night Bus Home", "Low Tide Radio - Seven Rows"}) {
     addItem(songs, row);
   }
+  songNames = songs.items;
 }
 
 // An oddity that is kept: the volume waits for the next save of the store.

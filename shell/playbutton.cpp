@@ -1,36 +1,36 @@
 #include "shell/playbutton.h"
 
-#include "game/arcade.h"
-#include "game/freestyle.h"
-#include "game/gamereset.h"
-#include "game/gametick.h"
-#include "game/levels.h"
-#include "game/model.h"
-#include "game/pieces.h"
-#include "game/text.h"
-#include "present/console.h"
-#include "present/display.h"
+#include <string>
+
+#include "base/text.h"
+#include "game/loading/levels.h"
+#include "game/loading/newgame.h"
+#include "game/loading/pieces.h"
+#include "game/model/gametick.h"
+#include "game/model/model.h"
+#include "game/modes.h"
 #include "present/keys.h"
 #include "present/loadingscreen.h"
 #include "present/music.h"
-#include "shell/fmain.h"
+#include "present/screen/display.h"
+#include "present/screen/fconsole.h"
 #include "shell/menucontrols.h"
+#include "shell/newgamepage.h"
+#include "shell/scorespage.h"
+#include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/progress.h"
-#include "storage/scores.h"
-#include "storage/store.h"
 
 namespace glonks {
 namespace {
 
 // Whether the choice on page 0 makes a game; tells the player what doesn't.
-bool gameChosen(const std::string& mode) {
+bool gameChosen(const Mode& mode) {
   if (tMode.listIndex == -1) {
     messageBox("Please select a game mode.");
-  } else if (mode == "Arcade" && tLevels.listIndex == -1) {
+  } else if (mode.hasGoals == True && tLevels.listIndex == -1) {
     messageBox("Please select a level.");
-  } else if (mode != "Arcade" && mode != "Freestyle") {
-    messageBox(mode + " can't be played yet.  Please select another game mode.");
+  } else if (mode.loop == nullptr) {
+    messageBox(mode.modeTitle + " can't be played yet.  Please select another game mode.");
   } else {
     return true;
   }
@@ -50,35 +50,35 @@ void loadGame() {
   showLoadingLine(loading, "Playing...");
 }
 
-void runArcade() {
-  modeName = "Freestyle";  // so that the item keys work here too
-  minuteStart = gameTick();
-  const i32 file = tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
-  loadLevel("\\levels\\" + plainNumber(file), True);
-  playArcade();
-  destroy();
-  if (levelWon == True) awardLevel();
+std::string levelPath() {
+  const i32 file = gameMode.levelFile != 0
+                       ? gameMode.levelFile
+                       : tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
+  return "\\levels\\" + plainNumber(file);
 }
 
-void runFreestyle() {
-  modeName = "Freestyle";
-  loadLevel("\\levels\\2193", False);
-  play();
+void playGame() {
+  // Item keys look for this name.
+  modeName = gameMode.itemKeys == True ? "Freestyle" : gameMode.modeTitle;
+  if (gameMode.hasGoals == True) minuteStart = gameTick();
+  loadLevel(levelPath(), gameMode.hasGoals);
+  gameMode.loop();
   destroy();
-  enterHighScore();
+  if (gameMode.hasGoals == True && levelWon == True) awardLevel();
+  if (gameMode.scoreTable == True) enterHighScore();
 }
 
 }  // namespace
 
 void main_BtnRun_Click() {
-  const std::string mode = textOf(tMode);
-  if (!gameChosen(mode)) return;
+  const Mode chosen = modeTitled(textOf(tMode));
+  if (!gameChosen(chosen)) return;
+  gameMode = chosen;
   hideForm(fMain);
   gameOver = False;  // so that fConsole can't be closed while the game is being loaded
   fConsole_Show(readKeys);
   loadGame();
-  if (mode == "Arcade") runArcade();
-  if (mode == "Freestyle") runFreestyle();
+  playGame();
   saveStore();
   showForm(fMain);
 }

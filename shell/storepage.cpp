@@ -3,8 +3,10 @@
 #include <limits>
 #include <string>
 
-#include "game/model.h"
-#include "game/text.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "shell/pages.h"
+#include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/store.h"
 
@@ -19,6 +21,18 @@ void showCount(i16 slot) {
 void showBank() { tBank.caption = plainNumber(bank); }
 
 }  // namespace
+
+void mStore_Click() {
+  showPage(storePage);
+  showStock();
+}
+
+void loadStore() {
+  readStore();
+  setValue(HScroll2, musicVolume);
+}
+
+void saveStore() { save(storeFile, writeStore); }
 
 void showStock() {
   showBank();

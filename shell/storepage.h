@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "game/types.h"
+#include "base/types.h"
 #include "shell/menucontrols.h"
 
 // The page Spend Credits, where credits become goods.
@@ -23,6 +23,14 @@ inline constexpr std::array<StoreItem, storeRows> storeItems = {{
     {40, "a Bonus Song", False},
     {40, "Midnight Bowling", False},
 }};
+
+void mStore_Click();  // shows the page, with fresh numbers
+
+// Reads the store's file and sets the volume's scroll bar.
+void loadStore();
+
+// Stores bank, goods and settings. Raises fileAccess if the player gives up a write that fails.
+void saveStore();
 
 // Sets the labels from bank and itemStock.
 void showStock();

@@ -3,12 +3,11 @@
 #include <filesystem>
 #include <utility>
 
-#include "game/errors.h"
-#include "game/text.h"
-#include "shell/toolkit/toolkit.h"
-#include "storage/paths.h"
-#include "storage/scrambledfiles.h"
-#include "storage/textchannels.h"
+#include "base/errors.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
 
 namespace glonks {
 namespace {
@@ -94,21 +93,11 @@ void readPlayersFile(const PlayersFile& file, const std::function<void()>& read)
 }
 
 void writePlayersFile(const PlayersFile& file, const std::function<void()>& write) {
-  for (;;) {
-    try {
-      ScrambledWriter writer(pathOf(file));
-      write();
-      return writer.close();
-    } catch (const RuntimeError& error) {
-      const std::string question = std::string(error.what()) + "\n\nNot stored: " + file.holds +
-                                   ".  Do you want to try again?";
-      if (yesNoBox(question) != True) throw;
-    }
-  }
+  ScrambledWriter writer(pathOf(file));
+  write();
+  writer.close();
 }
 
-void tellOfNewFiles() {
-  if (!news.empty()) messageBox(std::exchange(news, ""));
-}
+std::string takeNews() { return std::exchange(news, ""); }
 
 }  // namespace glonks

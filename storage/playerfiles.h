@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // The files in "\init\" that belong to the player. None of them is ever lost: one that is damaged
 // is put aside as "<name>.damaged", and the player is told.
@@ -35,11 +35,12 @@ std::string firstContentsOf(const PlayersFile& file);
 // and `read` runs again; what that raises comes out, and so does any failure to write.
 void readPlayersFile(const PlayersFile& file, const std::function<void()>& read);
 
-// Runs `write`, which writes plain lines on channel 4, and replaces the file by them. When that
-// fails, the player may have it tried again; if not, the failure comes out and the old file stands.
+// Runs `write`, which writes plain lines on channel 4, and replaces the file by them. Raises
+// fileAccess if that fails; the old file stands then.
 void writePlayersFile(const PlayersFile& file, const std::function<void()>& write);
 
-// Tells the player, in one message, of all files that were made anew since the last call.
-void tellOfNewFiles();
+// What the player has to be told of files that were made anew since the last call; empty if
+// nothing.
+std::string takeNews();
 
 }  // namespace glonks

@@ -1,20 +1,30 @@
 #include "storage/progress.h"
 
-#include <algorithm>
-#include <string>
-#include <vector>
+#include <limits>
 
-#include "game/model.h"
-#include "game/text.h"
-#include "shell/menucontrols.h"
-#include "shell/toolkit/toolkit.h"
-#include "storage/fieldreader.h"
+#include "base/text.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
-#include "storage/scrambledfiles.h"
-#include "storage/textchannels.h"
 
 namespace glonks {
 namespace {
+
+std::vector<OpenLevel> readList() {
+  std::vector<OpenLevel> levels;
+  while (!endOfFile(playersChannel)) {
+    const std::string name = readLine(playersChannel, "level name");
+    const std::string field = "number of level \"" + name + "\"";
+    const std::string number = readLine(playersChannel, field);
+    if (!isNumber(number)) badField(playersChannel, field, "isn't a number.");
+    using Whole = std::numeric_limits<i32>;
+    levels.push_back({name, roundedField(playersChannel, field, leadingNumber(number), Whole::min(),
+                                         Whole::max())});
+  }
+  if (levels.empty()) badField(playersChannel, "level name", "is missing.");
+  return levels;
+}
 
 std::vector<std::string> linesOfLevels() {
   std::vector<std::string> lines;
@@ -30,18 +40,19 @@ std::vector<std::string> linesOfLevels() {
 
 }  // namespace
 
-void awardLevel() {
-  const auto& open = tLevels.items;
-  if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return;
-  messageBox("Congratulations!  You have been awarded a new level for Arcade mode!");
+std::vector<OpenLevel> readOpenLevels() {
+  std::vector<OpenLevel> levels;
+  readPlayersFile(levelsFile, [&levels] { levels = readList(); });
+  return levels;
+}
+
+void addOpenLevel(const OpenLevel& level) {
   std::vector<std::string> lines = linesOfLevels();
-  lines.push_back(rewardLevelName);
-  lines.push_back(signedNumber(rewardLevelFile) + " ");
+  lines.push_back(level.name);
+  lines.push_back(signedNumber(level.file) + " ");
   writePlayersFile(levelsFile, [&lines] {
     for (const std::string& line : lines) writeLine(ScrambledWriter::channel, line);
   });
-  addItem(tLevels, rewardLevelName, rewardLevelFile);
-  tellOfNewFiles();
 }
 
 }  // namespace glonks

@@ -1,11 +1,24 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "base/types.h"
+
 // The Arcade levels that are open to the player, in "\init\6537": a line with the name and one with
-// the number of the level's file, for each.
+// the number of the level's file, for each, in the order in which they were opened.
 namespace glonks {
 
-// Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
-// tells the player, and adds it to the file and to tLevels. A damaged file is made anew.
-void awardLevel();
+struct OpenLevel {
+  std::string name;
+  i32 file = 0;  // number in "\levels\"
+};
+
+// Reads the list, at least one level. A damaged file is made anew.
+std::vector<OpenLevel> readOpenLevels();
+
+// Adds one level to the file. Raises fileAccess if it can't be written; a damaged file is made
+// anew.
+void addOpenLevel(const OpenLevel& level);
 
 }  // namespace glonks

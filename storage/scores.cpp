@@ -3,15 +3,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "game/model.h"
-#include "game/text.h"
-#include "shell/fmain.h"
-#include "shell/menucontrols.h"
-#include "shell/toolkit/toolkit.h"
-#include "storage/fieldreader.h"
+#include "base/text.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
-#include "storage/scrambledfiles.h"
-#include "storage/textchannels.h"
 
 namespace glonks {
 namespace {
@@ -28,22 +24,11 @@ void readTable() {
   highScores = table;
 }
 
-// The row of the list for the entry in a place, counted from 1. The tab begins the names' column.
-std::string rowOf(i32 place, const HighScore& entry) {
-  const std::string number = (place < 10 ? "0" : "") + plainNumber(place);
-  return number + ".    " + plainNumber(entry.points) + "   " + "\t" + entry.playerName;
-}
-
 }  // namespace
 
-void loadScores() {
-  clearItems(scores_freestyle);
-  readPlayersFile(scoresFile, readTable);
-  i32 place = 0;
-  for (const HighScore& entry : highScores) addItem(scores_freestyle, rowOf(++place, entry));
-}
+void readScores() { readPlayersFile(scoresFile, readTable); }
 
-void saveScores() {
+void writeScores() {
   writePlayersFile(scoresFile, [] {
     for (const HighScore& entry : highScores) {
       writeLine(ScrambledWriter::channel, plainNumber(entry.points) + "," + entry.playerName);
@@ -51,19 +36,16 @@ void saveScores() {
   });
 }
 
-void enterHighScore() {
+i16 placeOfScore(i32 points) {
   const auto place = std::find_if(highScores.begin(), highScores.end(),
-                                  [](const HighScore& entry) { return score >= entry.points; });
-  if (place == highScores.end()) return;
-  const std::string name = inputBox(
-      "Congratulations!  " + plainNumber(score) + " is a new high score!  Please enter your name.",
-      longestStoredText);
-  std::move_backward(place, highScores.end() - 1, highScores.end());
-  *place = {storableText(name), score};
-  saveScores();
-  loadScores();
-  mScores_Click();
-  setText(scoreModes, "Freestyle");
+                                  [&](const HighScore& entry) { return points >= entry.points; });
+  return static_cast<i16>(place - highScores.begin());
+}
+
+void insertScore(i16 place, const HighScore& entry) {
+  auto* const at = highScores.begin() + place;
+  std::move_backward(at, highScores.end() - 1, highScores.end());
+  *at = {storableText(entry.playerName), entry.points};
 }
 
 }  // namespace glonks

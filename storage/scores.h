@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
-// The table of the ten best scores of Freestyle, in "\init\6095" and on the page High Scores. The
-// file has a line for each entry, best first: the points, a comma and the name.
+// The table of the ten best scores of Freestyle, in "\init\6095". The file has a line for each
+// entry, best first: the points, a comma and the name.
 namespace glonks {
 
 struct HighScore {
@@ -17,13 +17,17 @@ struct HighScore {
 inline constexpr i16 highScoreCount = 10;
 inline std::array<HighScore, highScoreCount> highScores;  // the best first
 
-// Reads the table and rebuilds the list on the page. A damaged file is made anew.
-void loadScores();
+// Reads the table. A damaged file is made anew.
+void readScores();
 
-// Writes the table. Raises fileAccess if the player gives up a write that fails.
-void saveScores();
+// Writes the table. Raises fileAccess if it can't be written.
+void writeScores();
 
-// If `score` enters the table: asks for a name, stores the entry and brings up the page.
-void enterHighScore();
+// The place from 0 that a score takes in the table, above all that are equal; highScoreCount for
+// none.
+i16 placeOfScore(i32 points);
+
+// Enters a score at its place; the entries from there on move down, and the last one is lost.
+void insertScore(i16 place, const HighScore& entry);
 
 }  // namespace glonks

@@ -3,13 +3,12 @@
 #include <limits>
 #include <string>
 
-#include "game/model.h"
-#include "game/text.h"
-#include "shell/menucontrols.h"
-#include "storage/fieldreader.h"
+#include "base/text.h"
+#include "game/model/model.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
-#include "storage/scrambledfiles.h"
-#include "storage/textchannels.h"
 
 namespace glonks {
 namespace {
@@ -24,7 +23,7 @@ i16 readCount(const std::string& fieldName) {
 }
 
 // Nothing is changed before all has been read.
-void readStore() {
+void readValues() {
   const i16 storedBank = readCount("bank");
   auto stock = itemStock;
   for (const i16 item : storedOrder) {
@@ -53,12 +52,9 @@ void writeNumber(i32 number) { writeLine(ScrambledWriter::channel, plainNumber(n
 
 }  // namespace
 
-void loadStore() {
-  readPlayersFile(storeFile, readStore);
-  setValue(HScroll2, musicVolume);
-}
+void readStore() { readPlayersFile(storeFile, readValues); }
 
-void saveStore() {
+void writeStore() {
   writePlayersFile(storeFile, [] {
     writeNumber(bank);
     for (const i16 item : storedOrder) writeNumber(itemStock[static_cast<std::size_t>(item)]);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 // What a player keeps between games: credits, goods, notes, theme and volume, in "\init\6702". The
 // file has 13 lines, a value each.
@@ -11,11 +11,11 @@ inline Flag storeFlagA = False;
 inline Flag storeFlagB = False;
 inline Flag storeFlagC = False;
 
-// Reads the file into its variables and sets the volume's scroll bar. A value out of range is
-// brought to the nearest allowed one; a damaged file is made anew.
-void loadStore();
+// Reads the file into its variables. A value out of range is brought to the nearest allowed one; a
+// damaged file is made anew.
+void readStore();
 
-// Writes the file. Raises fileAccess if the player gives up a write that fails.
-void saveStore();
+// Writes the file. Raises fileAccess if it can't be written.
+void writeStore();
 
 }  // namespace glonks

@@ -8,8 +8,8 @@
 #include <iterator>
 #include <string>
 
-#include "game/errors.h"
-#include "storage/paths.h"
+#include "base/errors.h"
+#include "base/paths.h"
 
 namespace glonks {
 

@@ -7,11 +7,11 @@
 #include <set>
 #include <utility>
 
-#include "game/errors.h"
-#include "game/model.h"
-#include "game/pieces.h"
-#include "game/text.h"
-#include "storage/textchannels.h"
+#include "base/errors.h"
+#include "base/text.h"
+#include "game/loading/pieces.h"
+#include "game/model/model.h"
+#include "storage/files/textchannels.h"
 
 namespace glonks {
 namespace {

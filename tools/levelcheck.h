@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 namespace glonks {
 

@@ -4,10 +4,10 @@
 #include <iostream>
 #include <vector>
 
-#include "game/errors.h"
-#include "storage/paths.h"
+#include "base/errors.h"
+#include "base/paths.h"
+#include "storage/files/scrambledfiles.h"
 #include "storage/playerfiles.h"
-#include "storage/scrambledfiles.h"
 #include "tools/levelcheck.h"
 
 // Scrambles the plain data files into the game's folder: scramble <data> <game folder>.

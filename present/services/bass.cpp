@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
+#include "base/paths.h"
 #include "present/services/audiodevice.h"
-#include "storage/paths.h"
 
 namespace glonks {
 namespace {

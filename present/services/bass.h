@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Module modBass: songs, streamed from OGG Vorbis files. One song plays at a time.
 namespace glonks {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "game/errors.h"
+#include "base/errors.h"
 #include "present/services/filebytes.h"
 #include "present/services/screen.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 #include "present/services/surface.h"
 
 // The display: surfaces to draw on, pictures from files, and the screen that shows them.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "game/errors.h"
+#include "base/errors.h"
 #include "present/services/screen.h"
 
 namespace glonks {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Keyboard and mouse of the game's window.
 namespace glonks {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "game/errors.h"
+#include "base/errors.h"
 #include "present/services/audiodevice.h"
 #include "present/services/filebytes.h"
 

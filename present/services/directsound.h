@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Sound effects. Tests put a list of the sounds played in the place of the device.
 namespace glonks {

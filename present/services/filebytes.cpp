@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "game/errors.h"
-#include "storage/paths.h"
+#include "base/errors.h"
+#include "base/paths.h"
 
 namespace glonks {
 

@@ -8,8 +8,8 @@
 #include <memory>
 #include <utility>
 
-#include "game/errors.h"
-#include "game/text.h"
+#include "base/errors.h"
+#include "base/text.h"
 
 namespace glonks {
 namespace {

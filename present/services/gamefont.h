@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Inside the services: fonts of the system, and texts as pictures.
 namespace glonks {

@@ -2,7 +2,7 @@
 
 #include <SDL.h>
 
-#include "game/types.h"
+#include "base/types.h"
 
 namespace glonks {
 

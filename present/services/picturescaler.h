@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 #include "present/services/surface.h"
 
 namespace glonks {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "game/clock.h"
-#include "game/errors.h"
+#include "base/clock.h"
+#include "base/errors.h"
 #include "present/services/gamewindow.h"
 #include "present/services/picturescaler.h"
 

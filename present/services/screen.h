@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Inside the services: the picture in the game's window, and its input as the window has seen it.
 namespace glonks {

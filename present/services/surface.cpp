@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "game/errors.h"
+#include "base/errors.h"
 #include "present/services/gamefont.h"
 #include "present/services/screen.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Surfaces: pictures in memory that can be drawn on and blitted to each other.
 namespace glonks {

@@ -6,8 +6,8 @@
 #include <array>
 #include <utility>
 
-#include "game/clock.h"
-#include "game/errors.h"
+#include "base/clock.h"
+#include "base/errors.h"
 #include "present/services/audiodevice.h"
 #include "present/services/gamewindow.h"
 #include "present/services/screen.h"
@@ -201,6 +201,10 @@ void setWindowState(i32 handle, WindowState state) {
   } else {
     SDL_MaximizeWindow(window);
   }
+}
+
+void setWindowTitle(i32 handle, const std::string& title) {
+  if (gameWindow(handle) != nullptr) SDL_SetWindowTitle(window, title.c_str());
 }
 
 void letWindowMessagesThrough() {

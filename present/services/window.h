@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // The window that a game is played in, and its messages. There is at most one at a time.
 namespace glonks {
@@ -20,6 +20,7 @@ enum class WindowState : i16 { normal = 0, maximised = 2 };
 i32 openWindow(const std::string& caption, const WindowEvents& events);
 void closeWindow(i32 handle);
 void setWindowState(i32 handle, WindowState state);
+void setWindowTitle(i32 handle, const std::string& title);
 
 // Handles what is waiting for the window: keys, loss and return of the focus, Alt+Enter (which
 // switches between the whole screen and a resizable window). If nothing is waiting, sleeps to the

@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // The controls of the menu's windows as plain data. The toolkit mirrors them on the screen; without
 // a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are

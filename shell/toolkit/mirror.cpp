@@ -9,10 +9,10 @@
 #include <limits>
 #include <utility>
 
+#include "base/paths.h"
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/style.h"
 #include "shell/toolkit/widgets.h"
-#include "storage/paths.h"
 
 namespace glonks {
 namespace {

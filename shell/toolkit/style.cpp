@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "game/text.h"
+#include "base/text.h"
 #include "shell/toolkit/controls.h"
 
 namespace glonks {

@@ -4,7 +4,7 @@
 #include <QString>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Size and looks of everything that the toolkit shows.
 namespace glonks {

@@ -16,12 +16,11 @@
 #include <memory>
 #include <utility>
 
-#include "game/text.h"
-#include "present/services/window.h"
+#include "base/paths.h"
+#include "base/text.h"
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/formwindow.h"
 #include "shell/toolkit/style.h"
-#include "storage/paths.h"
 
 namespace glonks {
 namespace {
@@ -145,13 +144,12 @@ void runEvents() {
 
 void endProgram() { requestEnd(); }
 
-void letMessagesThrough() {
+void letFormMessagesThrough() {
   levelVisibleForms();
   {
     const LoopInUse loop([] {});
     QCoreApplication::processEvents(QEventLoop::AllEvents, longestTurn);
   }
-  letWindowMessagesThrough();
   raiseKept();
 }
 

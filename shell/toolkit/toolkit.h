@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <string>
 
-#include "game/types.h"
+#include "base/types.h"
 #include "shell/toolkit/controls.h"
 
 // Windows, dialogs and the event loop. Handlers of controls run inside runEvents or
-// letMessagesThrough; what a handler raises comes out of there.
+// letFormMessagesThrough; what a handler raises comes out of there.
 namespace glonks {
 
 // Makes the toolkit ready; first call of the program. The program's folder is that of the program
@@ -30,9 +30,8 @@ void hideForm(Form& form);
 void runEvents();
 void endProgram();
 
-// Handles all events that are waiting, those of the game's window too, and may wait up to a
-// millisecond for the next one.
-void letMessagesThrough();
+// Handles all events of forms that are waiting.
+void letFormMessagesThrough();
 
 // Has the system open an address, by the player's browser for a web address. Doesn't wait.
 void openBySystem(const std::string& address);

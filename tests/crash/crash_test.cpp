@@ -6,15 +6,13 @@
 #include <csignal>
 #include <functional>
 
-#include "game/model.h"
-#include "shell/menucontrols.h"
+#include "game/model/model.h"
+#include "storage/files/scrambledfiles.h"
 #include "storage/playerfiles.h"
 #include "storage/progress.h"
 #include "storage/scores.h"
-#include "storage/scrambledfiles.h"
 #include "storage/store.h"
 #include "tests/fakes/random.h"
-#include "tests/fakes/toolkit.h"
 #include "tests/tempfolder.h"
 
 namespace glonks {
@@ -54,9 +52,13 @@ const Save saves[] = {
      [] {
        highScores[3] = {"Newcomer", 14000};
      },
-     saveScores, loadScores},
-    {storeFile, [] { bank = 1234; }, saveStore, loadStore},
-    {levelsFile, [] { rewardLevelName = "Reward"; }, awardLevel, [] {}},
+     writeScores, readScores},
+    {storeFile, [] { bank = 1234; }, writeStore, readStore},
+    {levelsFile, [] {},
+     [] {
+       addOpenLevel({"Reward", 3102});
+     },
+     [] { readOpenLevels(); }},
 };
 
 using CrashTest = TempFolder;
@@ -70,8 +72,8 @@ TEST_F(CrashTest, EveryFileIsTheOldOrTheNewOne) {
   for (int level = 0; level < 400; ++level) levels += "A level of Arcade\r\n 3101 \r\n";
   putBytes("\\plain", levels);
   scrambleFile("\\plain", pathOf(levelsFile));
-  loadScores();
-  loadStore();
+  readScores();
+  readStore();
   int allKills = 0;
   for (const Save& save : saves) {
     const std::string path = pathOf(save.file);
@@ -89,7 +91,6 @@ TEST_F(CrashTest, EveryFileIsTheOldOrTheNewOne) {
       const std::string left = bytesOf(path);
       ASSERT_TRUE(left == before || left == after) << path << " after stop " << kills;
       if (left == before) ++old;
-      fake::resetToolkit();
       save.load();
       EXPECT_EQ(bytesOf(path), left) << "not taken for damaged";
       if (!finished && kills % 8 == 0) {

@@ -1,8 +1,8 @@
 #include "game/arcade.h"
 
-#include "rules/timedpieces.h"
+#include "rules/boardscan.h"
 #include "shell/playbutton.h"
-#include "storage/log.h"
+#include "storage/files/log.h"
 #include "tests/engine/boardtest.h"
 
 namespace glonks {

@@ -1,7 +1,7 @@
 #include <sstream>
 
-#include "game/levels.h"
-#include "game/randomgenerator.h"
+#include "base/randomgenerator.h"
+#include "game/loading/levels.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {

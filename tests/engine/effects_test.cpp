@@ -1,11 +1,12 @@
-#include "present/effects.h"
+#include "present/effects/effects.h"
 
+#include "game/modes.h"
 #include "game/playloop.h"
-#include "present/applause.h"
 #include "present/effectdrawing.h"
+#include "present/effects/applause.h"
+#include "present/effects/ticker.h"
 #include "present/frogparade.h"
 #include "present/goaldisplay.h"
-#include "present/ticker.h"
 #include "present/tickerdrawing.h"
 #include "tests/engine/boardtest.h"
 
@@ -181,9 +182,6 @@ TEST_F(EffectsTest, CountersFollowTheModePicked) {
   bTypeLeft = 31;
   const Line kept[] = {{795, 33, "5 x "}, {895, 33, "8 x "}};
   pointerSurface = nullptr;
-  addItem(tMode, "Freestyle");
-  addItem(tMode, "Arcade");
-  addItem(tMode, "B-Type");
   const std::vector<Line> lines[] = {{{300, 33, "3 x "},
                                       {400, 33, "0 x "},
                                       {500, 33, "12 x "},
@@ -192,8 +190,9 @@ TEST_F(EffectsTest, CountersFollowTheModePicked) {
                                       kept[1]},
                                      {kept[0], kept[1]},
                                      {{300, 33, "31 x "}, kept[0], kept[1]}};
-  for (i32 mode = 0; mode < 3; ++mode) {
-    tMode.listIndex = mode;
+  const char* titles[] = {"Freestyle", "Arcade", "B-Type"};
+  for (std::size_t mode = 0; mode < 3; ++mode) {
+    gameMode = modeTitled(titles[mode]);
     drawMovingThings(runPlainly);
     EXPECT_TRUE(shows(lines[mode])) << mode;
   }

@@ -2,16 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "game/gamereset.h"
-#include "game/gametick.h"
-#include "game/pieces.h"
-#include "game/resources.h"
-#include "present/console.h"
-#include "present/display.h"
+#include "game/loading/newgame.h"
+#include "game/loading/pieces.h"
+#include "game/model/gametick.h"
+#include "game/model/resources.h"
 #include "present/keys.h"
+#include "present/screen/display.h"
+#include "present/screen/fconsole.h"
 #include "rules/falling.h"
 #include "shell/menucontrols.h"
-#include "storage/scrambledfiles.h"
+#include "storage/files/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/random.h"
 #include "tests/fakes/sound.h"
@@ -37,7 +37,7 @@ class EngineTest : public TempFolder {
     fake::resetWindow();
     fConsole_Show(readKeys);
     initDX();
-    clearItems(songs);
+    songNames.clear();
     themeName = "Cells";
     fake::queueDraw(0, 5);  // the plate
     initVariables();
@@ -55,10 +55,7 @@ class EngineTest : public TempFolder {
     EXPECT_TRUE(fake::draws.empty()) << "draws were not taken";
   }
 
-  static Cell& cellAt(i32 row, i32 column) {
-    return playfield[static_cast<std::size_t>(row)][column];
-  }
-  static Piece& entryAt(i16 slot) { return pieceCatalog[static_cast<std::size_t>(slot)]; }
+  static Piece& entryAt(i16 slot) { return catalogEntry(slot); }
 
   // A piece at rest.
   static Cell& put(i16 row, i16 column, const std::string& name = "Glonk") {

@@ -1,6 +1,6 @@
 #include "game/freestyle.h"
 
-#include "game/levels.h"
+#include "game/loading/levels.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {

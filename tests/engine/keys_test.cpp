@@ -7,7 +7,7 @@ constexpr i32 escape = 1, one = 2, three = 4, p = 25, n = 49, spaceBar = 57, up 
 
 class KeysTest : public EngineTest {
  protected:
-  KeysTest() { addItem(songs, "Band - Song"); }
+  KeysTest() { songNames.push_back("Band - Song"); }
 
   // A key event, as a rule well after the last one; gives the row under the pointer after it.
   static i16 press(const std::vector<i32>& keys, u32 wait = 1000) {

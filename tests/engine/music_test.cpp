@@ -9,11 +9,11 @@ class MusicTest : public EngineTest {};
 
 TEST_F(MusicTest, NextSongIsNeverTheOneBeforeIfThereIsAnother) {
   nextSong();  // none is silence
-  addItem(songs, "A");
+  songNames.push_back("A");
   fake::draws = {0, 0};
   nextSong();
   nextSong();
-  for (const char* row : {"B", "C"}) addItem(songs, row);
+  for (const char* row : {"B", "C"}) songNames.push_back(row);
   musicVolume = 35;
   fake::draws = {0, 0, 0.9F};
   nextSong();
@@ -24,7 +24,7 @@ TEST_F(MusicTest, NextSongIsNeverTheOneBeforeIfThereIsAnother) {
 TEST_F(MusicTest, SongLineStartsTheNextSongAndGivesUpThoseThatCantBePlayed) {
   musicStream = 0;
   forgetFailedSongs();
-  for (const char* row : {"A", "B"}) addItem(songs, row);
+  for (const char* row : {"A", "B"}) songNames.push_back(row);
   fake::brokenSongs = {"\\music\\A"};
   fake::draws = {0, 0.9F};
   for (i32 pass = 0; pass < 5; ++pass) showSongLine();  // the second goes on

@@ -1,6 +1,6 @@
 #include "rules/slamming.h"
 
-#include "rules/timedpieces.h"
+#include "rules/boardscan.h"
 #include "tests/engine/boardtest.h"
 
 namespace glonks {

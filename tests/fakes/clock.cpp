@@ -1,6 +1,6 @@
 #include "tests/fakes/clock.h"
 
-#include "game/clock.h"
+#include "base/clock.h"
 
 namespace glonks {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/types.h"
+#include "base/types.h"
 
 // A clock that stands still until it is set; linked in the place of the real one.
 namespace glonks::fake {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "game/random.h"
-#include "game/randomgenerator.h"
+#include "base/random.h"
+#include "base/randomgenerator.h"
 
 namespace glonks {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <deque>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Queued draws, linked in the place of the game's random generator.
 namespace glonks::fake {

@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <utility>
 
-#include "game/errors.h"
+#include "base/errors.h"
+#include "base/paths.h"
 #include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "present/services/directsound.h"
-#include "storage/paths.h"
 
 namespace glonks {
 namespace {

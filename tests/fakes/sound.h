@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // Lists of what has been heard, linked in the place of the sound device.
 namespace glonks::fake {

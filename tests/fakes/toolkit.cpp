@@ -42,7 +42,7 @@ std::string inputBox(const std::string& prompt, i32 /*longest*/) {
   return fake::typed;
 }
 
-void letMessagesThrough() {
+void letFormMessagesThrough() {
   ++fake::messagePasses;
   if (fake::messages) fake::messages();
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // A toolkit without a screen, linked in the place of the real one.
 namespace glonks::fake {
@@ -16,7 +16,7 @@ inline std::string typed;                // what inputBox gives
 inline std::vector<std::string> forms;   // "show Glonks", "hide Glonks" ...
 inline std::vector<std::string> opened;  // addresses and programs, in order
 
-// Runs at each letMessagesThrough, where events would be handled; counts the calls.
+// Runs at each letFormMessagesThrough, where events would be handled; counts the calls.
 inline std::function<void()> messages;
 inline i32 messagePasses = 0;
 

@@ -23,6 +23,7 @@ void resetWindow() {
   windowOpen = false;
   cursorShown = 1;
   windowMessages = nullptr;
+  windowTitle.clear();
 }
 
 }  // namespace fake
@@ -34,6 +35,7 @@ i32 openWindow(const std::string& /*caption*/, const WindowEvents& events) {
 }
 void closeWindow(i32 /*handle*/) { fake::windowOpen = false; }
 void setWindowState(i32 /*handle*/, WindowState /*state*/) {}
+void setWindowTitle(i32 /*handle*/, const std::string& title) { fake::windowTitle = title; }
 void letWindowMessagesThrough() {
   if (fake::windowMessages) fake::windowMessages();
 }

@@ -2,9 +2,10 @@
 
 #include <array>
 #include <functional>
+#include <string>
 #include <vector>
 
-#include "game/types.h"
+#include "base/types.h"
 
 // A window without a screen, linked in the place of the real one.
 namespace glonks::fake {
@@ -16,7 +17,8 @@ inline i32 watchedX = 0;  // a place on the screen, and what the last picture sh
 inline i32 watchedY = 0;
 inline u32 watchedPixel = 0;
 inline bool windowOpen = false;
-inline i32 cursorShown = 1;  // the last argument of ShowCursor
+inline std::string windowTitle;  // as last set
+inline i32 cursorShown = 1;      // the last argument of ShowCursor
 
 // Runs at each letWindowMessagesThrough.
 inline std::function<void()> windowMessages;

@@ -1,22 +1,26 @@
 #include "shell/fmain.h"
 
+#include "present/screen/messages.h"
+
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTextBrowser>
 
-#include "game/model.h"
-#include "shell/bands.h"
+#include "game/model/model.h"
+#include "shell/bandspage.h"
 #include "shell/fpieces.h"
 #include "shell/fsplash.h"
 #include "shell/ftip.h"
 #include "shell/links.h"
 #include "shell/menucontrols.h"
+#include "shell/newgamepage.h"
+#include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
-#include "storage/log.h"
+#include "storage/files/log.h"
+#include "storage/files/scrambledfiles.h"
 #include "storage/scores.h"
-#include "storage/scrambledfiles.h"
 #include "storage/store.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/sound.h"

@@ -65,7 +65,7 @@ QWidget* showSheet() {
   runs.clear();
   showForm(sheet->form);
   QApplication::setActiveWindow(shownWindow());
-  letMessagesThrough();
+  letFormMessagesThrough();
   return shownWindow();
 }
 
@@ -91,7 +91,7 @@ TEST_F(Toolkit, showsTheDataAtTheirPlacesAndFollowsTheirChanges) {
   sheet->list.listIndex = 2;
   sheet->combo.enabled = False;
   sheet->bar.value = 30;
-  letMessagesThrough();
+  letFormMessagesThrough();
   const auto* label = window->findChild<QLabel*>();
   EXPECT_EQ(label->text().toStdString(), "café <b>&c");
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
@@ -104,7 +104,7 @@ TEST_F(Toolkit, showsTheDataAtTheirPlacesAndFollowsTheirChanges) {
   setListIndex(sheet->combo, 2);
   setValue(sheet->bar, 7);
   clearItems(sheet->list);
-  letMessagesThrough();
+  letFormMessagesThrough();
   EXPECT_EQ(runs, (Runs{"list two", "combo three", "change 7"}));
   EXPECT_EQ(combo->currentText(), "three");
   EXPECT_EQ(list->count(), 0);
@@ -133,7 +133,7 @@ TEST_F(Toolkit, hotSpotIsPressedByMouseAndKeysUnlessDisabled) {
   }
   EXPECT_EQ(runs.size(), 4U);
   sheet->spot.enabled = False;
-  letMessagesThrough();
+  letFormMessagesThrough();
   QTest::mouseClick(spot, Qt::LeftButton);
   EXPECT_EQ(runs.size(), 4U);
 }
@@ -158,7 +158,7 @@ TEST_F(Toolkit, tabGoesByIndexThenHotSpotsAndOnlyOnThePageShown) {
   EXPECT_FALSE(backList->isVisible() || backList->isEnabled());
   std::swap(sheet->front.visible, sheet->back.visible);
   std::swap(sheet->front.enabled, sheet->back.enabled);
-  letMessagesThrough();
+  letFormMessagesThrough();
   EXPECT_TRUE(backList->isVisible() && backList->isEnabled());
   EXPECT_FALSE(combo->isVisible());
   EXPECT_EQ(QApplication::focusWidget(), backList);
@@ -166,7 +166,7 @@ TEST_F(Toolkit, tabGoesByIndexThenHotSpotsAndOnlyOnThePageShown) {
 
 TEST_F(Toolkit, whatHandlersRaiseComesOutOfTheLoopTheyRanIn) {
   sheet->spot.click = [] { throw std::runtime_error("raised"); };
-  for (const auto loop : {runEvents, letMessagesThrough}) {
+  for (const auto loop : {runEvents, letFormMessagesThrough}) {
     later([this] { QTest::keyClick(spot, Qt::Key_Space); });
     EXPECT_THROW(loop(), std::runtime_error);
   }

@@ -1,9 +1,9 @@
-#include "storage/scrambledfiles.h"
+#include "storage/files/scrambledfiles.h"
 
 #include <functional>
 #include <vector>
 
-#include "storage/textchannels.h"
+#include "storage/files/textchannels.h"
 #include "tests/tempfolder.h"
 
 namespace glonks {

@@ -1,9 +1,9 @@
-#include "storage/textchannels.h"
+#include "storage/files/textchannels.h"
 
 #include <vector>
 
-#include "storage/fieldreader.h"
-#include "storage/log.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/log.h"
 #include "tests/tempfolder.h"
 
 namespace glonks {

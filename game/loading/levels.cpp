@@ -1,0 +1,77 @@
+#include "game/loading/levels.h"
+
+#include "base/text.h"
+#include "game/model/model.h"
+#include "present/effects/ticker.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
+
+namespace glonks {
+namespace {
+
+constexpr i16 levelChannel = 4;
+using Small = std::numeric_limits<i16>;
+
+// Minutes are held one less than the file says: the countdown begins at 59 seconds.
+i16 readMinutes(const std::string& fieldName) {
+  const double minutes = leadingNumber(readField(levelChannel, fieldName)) - 1;
+  return static_cast<i16>(
+      roundedField(levelChannel, fieldName, minutes, Small::min(), Small::max()));
+}
+
+void readGoals() {
+  limitOn = False;
+  surviveOn = False;
+  avoidOn = False;
+  landOn = False;
+  levelWon = False;
+  levelOver = False;
+  levelTitle = readLine(levelChannel, "levelTitle");
+  rewardLevelName = readLine(levelChannel, "rewardLevelName");
+  pushMessage(levelTitle);
+  const double file = leadingNumber(readLine(levelChannel, "rewardLevelFile"));
+  rewardLevelFile = static_cast<i16>(
+      roundedField(levelChannel, "rewardLevelFile", file, Small::min(), Small::max()));
+  goalPieceCount = readI16(levelChannel, "goalPieceCount");
+  goalPieceName = readField(levelChannel, "goalPieceName");
+  goalScore = readI32(levelChannel, "goalScore");
+  limitMinutes = readMinutes("limitMinutes");
+  limitSeconds = readI16(levelChannel, "limitSeconds");
+  limitOn = flagOf(limitMinutes > 0 || limitSeconds > 0);
+  surviveMinutes = readMinutes("surviveMinutes");
+  surviveSeconds = readI16(levelChannel, "surviveSeconds");
+  surviveOn = flagOf(surviveMinutes > 0 || surviveSeconds > 0);
+  avoidLeft = readI16(levelChannel, "avoidLeft");
+  avoidName = readField(levelChannel, "avoidName");
+  avoidOn = flagOf(avoidLeft != -1);
+  landLeft = readI16(levelChannel, "landLeft");
+  landName = readField(levelChannel, "landName");
+  landOn = flagOf(landLeft != -1);
+}
+
+// An oddity that is kept: the two numbers of an entry are read only where a catalogue slot matches.
+// Behind an entry for an unknown piece everything moves up by two fields.
+void readSpawnEntry() {
+  const std::string name = readField(levelChannel, "name of a spawn entry");
+  const i16 variety = readWholeI16(levelChannel, "variety of spawn entry \"" + name + "\"");
+  for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
+    Piece& entry = catalogEntry(slot);
+    if (entry.name != name || entry.variety != variety) continue;
+    entry.spawnLow = readWholeI16(levelChannel, "spawnLow of spawn entry \"" + name + "\"");
+    entry.spawnHigh = readWholeI16(levelChannel, "spawnHigh of spawn entry \"" + name + "\"");
+  }
+}
+
+}  // namespace
+
+void loadLevel(const std::string& path, Flag isArcade) {
+  ScrambledReader file(path, levelChannel);
+  spawnInterval = readWholeI32(levelChannel, "spawnInterval");
+  if (spawnInterval < 1) badField(levelChannel, "spawnInterval", "isn't above 0.");
+  if (isArcade == True) readGoals();
+  while (!endOfFile(levelChannel)) readSpawnEntry();
+  file.close();
+}
+
+}  // namespace glonks

@@ -1,0 +1,14 @@
+#pragma once
+
+// Samples and pictures from the folders beside the program. All need initDX, and raise fileNotFound
+// or badFile, naming the file.
+namespace glonks {
+
+// The 24 samples of a game, from "\sounds\".
+void loadSamples();
+
+// The 49 pictures of a game: those of "\images\", the frame of the mode played, and one plate of
+// the theme, its number drawn just before it is loaded.
+void loadPictures();
+
+}  // namespace glonks

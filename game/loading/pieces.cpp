@@ -1,0 +1,66 @@
+#include "game/loading/pieces.h"
+
+#include "game/model/model.h"
+#include "present/screen/keyedpicture.h"
+#include "storage/files/fieldreader.h"
+#include "storage/files/scrambledfiles.h"
+#include "storage/files/textchannels.h"
+
+namespace glonks {
+namespace {
+
+constexpr i16 pieceChannel = 3;
+constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
+
+// The fields in the order of the file. Gives the picture's name.
+std::string readPiece(i16 channel, Piece& piece) {
+  piece.name = readField(channel, "name");
+  if (piece.name.empty()) badField(channel, "name", "is empty.");
+  piece.variety = readI16(channel, "variety");
+  std::string picture = readField(channel, "picture");
+  piece.bombable = readFlag(channel, "bombable");
+  piece.spareFlagA = readFlag(channel, "spareFlagA");
+  piece.slammable = readFlag(channel, "slammable");
+  piece.isBauble = readFlag(channel, "isBauble");
+  piece.isBomb = readFlag(channel, "isBomb");
+  piece.isCalculator = readFlag(channel, "isCalculator");
+  piece.isDiamond = readFlag(channel, "isDiamond");
+  piece.isGorgon = readFlag(channel, "isGorgon");
+  piece.isShifter = readFlag(channel, "isShifter");
+  piece.isMoney = readFlag(channel, "isMoney");
+  piece.spareFlagB = readFlag(channel, "spareFlagB");
+  piece.isBowlingBall = readFlag(channel, "isBowlingBall");
+  piece.isSlammer = readFlag(channel, "isSlammer");
+  piece.value = readI32(channel, "value");
+  piece.timerMax = readI32(channel, "timerMax");
+  piece.timerMin = readI32(channel, "timerMin");
+  piece.isPin = readFlag(channel, "isPin");
+  return picture;
+}
+
+}  // namespace
+
+Piece loadPiece(const std::string& fileId) {
+  Piece piece;
+  ScrambledReader file("\\init\\" + fileId, pieceChannel);
+  const std::string picture = readPiece(pieceChannel, piece);
+  file.close();
+  if (piece.name != "BType" && piece.name != "Pin") {
+    piece.surface = loadKeyedPicture(picture, piece.surfaceDesc);
+  }
+  return piece;
+}
+
+void loadPieces() {
+  pieceCatalogUpper = lastPieceSlot;
+  for (std::size_t slot = 0; slot < pieceFileIds.size(); ++slot) {
+    pieceCatalog[slot] = loadPiece(pieceFileIds[slot]);
+  }
+  for (i16 slot = 0; slot <= lastPieceSlot; ++slot) {
+    catalogEntry(slot).imageIndex = slot;
+  }
+  Piece& negative = catalogEntry(negativeCalculatorSlot);
+  negative.surface = loadKeyedPicture("calculator_02", negative.surfaceDesc);
+}
+
+}  // namespace glonks

@@ -1,0 +1,25 @@
+#include "present/screen/fconsole.h"
+
+#include "game/model/model.h"
+#include "present/services/window.h"
+
+namespace glonks {
+
+void fConsole_Show(void (*keyDown)()) {
+  fConsole.hWnd = openWindow(fConsole.caption, {keyDown, fConsole_Unload});
+}
+
+void fConsole_Form_Unload(i16& cancel) {
+  if (gameOver == False) cancel = 1;
+}
+
+void fConsole_Unload() {
+  if (fConsole.hWnd == 0) return;
+  i16 cancel = 0;
+  fConsole_Form_Unload(cancel);
+  if (cancel != 0) return;
+  closeWindow(fConsole.hWnd);
+  fConsole.hWnd = 0;
+}
+
+}  // namespace glonks

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "base/types.h"
+
+// Form fConsole: the window that owns the screen during a game and takes its key events.
+namespace glonks {
+
+struct ConsoleForm {
+  std::string caption = "Click to resume play";
+  i32 hWnd = 0;  // 0 while the form isn't loaded
+};
+inline ConsoleForm fConsole;
+
+// Loads and shows the form. `keyDown` runs at each key event that it gets.
+void fConsole_Show(void (*keyDown)());
+
+// Sets `cancel` to 1 while a game runs: the form can't be closed then.
+void fConsole_Form_Unload(i16& cancel);
+
+// Closes the form, unless its Form_Unload cancels that.
+void fConsole_Unload();
+
+}  // namespace glonks

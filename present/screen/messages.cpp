@@ -1,0 +1,13 @@
+#include "present/screen/messages.h"
+
+#include "present/services/window.h"
+#include "shell/toolkit/toolkit.h"
+
+namespace glonks {
+
+void letMessagesThrough() {
+  letFormMessagesThrough();
+  letWindowMessagesThrough();
+}
+
+}  // namespace glonks

@@ -1,0 +1,58 @@
+#include "shell/newgamepage.h"
+
+#include <algorithm>
+#include <string>
+
+#include "game/model/model.h"
+#include "game/modes.h"
+#include "shell/menucontrols.h"
+#include "shell/pages.h"
+#include "shell/saving.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/progress.h"
+
+namespace glonks {
+
+void mNew_Click() { showPage(newGamePage); }
+
+void Image6_Click() { mNew_Click(); }
+
+void popModes() {
+  modesUpper = 3;  // the last slot is free
+  modes.resize(static_cast<std::size_t>(modesUpper) + 1);
+  clearItems(tMode);
+  std::size_t slot = 0;
+  for (const char* title : {"Freestyle", "Arcade", "B-Type"}) {
+    modes[slot] = modeTitled(title);
+    addItem(tMode, modes[slot++].modeTitle);
+  }
+  clearItems(scoreModes);
+  for (const Mode& mode : modes) {
+    if (mode.scoreTable == True) addItem(scoreModes, mode.modeTitle);
+  }
+  setListIndex(scoreModes, 0);
+}
+
+void tMode_Click() {
+  clearItems(tLevels);
+  for (const Mode& mode : modes) {
+    if (mode.modeTitle == textOf(tMode)) tModeDesc.caption = mode.modeDescription;
+  }
+  const Mode mode = modeTitled(textOf(tMode));
+  for (const std::string& item : mode.levelItems) addItem(tLevels, item);
+  if (mode.hasGoals == True) {
+    for (const OpenLevel& level : readOpenLevels()) addItem(tLevels, level.name, level.file);
+    tellOfNewFiles();
+  }
+}
+
+void awardLevel() {
+  const auto& open = tLevels.items;
+  if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return;
+  messageBox("Congratulations!  You have been awarded a new level for Arcade mode!");
+  save(levelsFile, [] { addOpenLevel({rewardLevelName, rewardLevelFile}); });
+  addItem(tLevels, rewardLevelName, rewardLevelFile);
+  tellOfNewFiles();
+}
+
+}  // namespace glonks

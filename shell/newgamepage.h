@@ -1,0 +1,20 @@
+#pragma once
+
+// The page New Game: the choice of mode and level.
+namespace glonks {
+
+void mNew_Click();    // shows the page
+void Image6_Click();  // the title page's button, to this page
+
+// Fills `modes`, tMode and scoreModes, and selects the first item of scoreModes.
+void popModes();
+
+// A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels
+// from "\init\6537", which is made anew if it is damaged.
+void tMode_Click();
+
+// Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
+// tells the player, and adds it to the file and to tLevels.
+void awardLevel();
+
+}  // namespace glonks

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+#include "base/types.h"
+
+// Fields of an open text channel as values. A number is taken from the leading numeric part of the
+// field, 0 if there is none, and rounded to the nearest integer, halves to even. All raise
+// inputPastEnd where the file ends, and overflow where the number doesn't fit, naming file and
+// field.
+namespace glonks {
+
+i16 readI16(i16 channel, const std::string& fieldName);
+i32 readI32(i16 channel, const std::string& fieldName);
+
+// True for any number but 0.
+Flag readFlag(i16 channel, const std::string& fieldName);
+
+// The floor of a field that has to be a number as a whole; any other text raises typeMismatch.
+i16 readWholeI16(i16 channel, const std::string& fieldName);
+i32 readWholeI32(i16 channel, const std::string& fieldName);
+
+// A field that has to be a number as a whole, rounded and brought into the range from `low` to
+// `high`; any other text raises typeMismatch.
+i32 readWithin(i16 channel, const std::string& fieldName, i32 low, i32 high);
+
+// The same conversion as readI16 and readI32 for a text that has been read already: `number` is
+// rounded, and raises overflow if it leaves the range from `low` to `high`.
+i32 roundedField(i16 channel, const std::string& fieldName, double number, i32 low, i32 high);
+
+// Raises badFile for the channel's file: what is wrong with the field.
+[[noreturn]] void badField(i16 channel, const std::string& fieldName, const std::string& trouble);
+
+}  // namespace glonks

@@ -1,0 +1,242 @@
+#include "storage/files/textchannels.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <system_error>
+
+#include "base/errors.h"
+#include "base/paths.h"
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace glonks {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr i16 lastChannel = 511;
+
+struct Channel {
+  std::FILE* file = nullptr;
+  ChannelMode mode = ChannelMode::input;
+  std::string name;
+  fs::path target;  // the file that the player knows
+  fs::path beside;  // mode replace: the new file while it is being written
+  i32 line = 1;     // mode input: where the next character stands
+  int taken = EOF;  // mode input: the last byte taken
+};
+
+std::map<i16, Channel> channels;
+
+[[noreturn]] void fail(ErrorNumber number, const std::string& name, const std::string& trouble) {
+  throw RuntimeError(number, "The file \"" + name + "\" " + trouble);
+}
+
+std::string because(int error) { return std::string(" (") + std::strerror(error) + ")."; }
+
+Channel& opened(i16 channel, bool forInput) {
+  const auto found = channels.find(channel);
+  if (found == channels.end() || (found->second.mode == ChannelMode::input) != forInput) {
+    throw RuntimeError(ErrorNumber::channelUse,
+                       "Channel " + std::to_string(channel) + " isn't open for this use.");
+  }
+  return found->second;
+}
+
+int rawByte(Channel& channel) {
+  const int byte = std::fgetc(channel.file);
+  if (byte == EOF && std::ferror(channel.file) != 0) {
+    fail(ErrorNumber::fileNotFound, channel.name, "can't be read" + because(errno));
+  }
+  return byte;
+}
+
+int nextByte(Channel& channel) {
+  const int byte = rawByte(channel);
+  if (byte == '\r' || (byte == '\n' && channel.taken != '\r')) ++channel.line;
+  channel.taken = byte;
+  return byte;
+}
+
+int peekByte(Channel& channel) {
+  const int byte = rawByte(channel);
+  if (byte != EOF) std::ungetc(byte, channel.file);
+  return byte;
+}
+
+// After a CR: takes the LF that belongs to it.
+void finishLineEnd(Channel& channel, int byte) {
+  if (byte == '\r' && peekByte(channel) == '\n') nextByte(channel);
+}
+
+[[noreturn]] void failShort(const Channel& channel, const std::string& fieldName) {
+  const std::string what = fieldName.empty() ? "a line" : "its field " + fieldName;
+  fail(ErrorNumber::inputPastEnd, channel.name, "is too short: " + what + " is missing.");
+}
+
+bool isLineEnd(int byte) { return byte == '\n' || byte == '\r'; }
+bool isBlank(int byte) { return byte == ' ' || byte == '\t'; }
+
+bool flushToDisk(std::FILE* file) {
+#ifdef _WIN32
+  return _commit(_fileno(file)) == 0;
+#else
+  return fsync(fileno(file)) == 0;
+#endif
+}
+
+// Makes a rename last through a power failure.
+void flushFolder([[maybe_unused]] const fs::path& folder) {
+#ifndef _WIN32
+  const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+  if (handle < 0) return;
+  fsync(handle);
+  close(handle);
+#endif
+}
+
+}  // namespace
+
+void openChannel(i16 channel, const std::string& path, ChannelMode mode,
+                 const std::string& shownAs) {
+  if (channel < 1 || channel > lastChannel || isChannelOpen(channel)) {
+    throw RuntimeError(ErrorNumber::channelUse,
+                       "Channel " + std::to_string(channel) + " can't be opened.");
+  }
+  Channel opening;
+  opening.mode = mode;
+  opening.name = shownAs.empty() ? path : shownAs;
+  opening.target = nativePath(path);
+  fs::path place = opening.target;
+  if (mode == ChannelMode::replace) {
+    opening.beside = opening.target;
+    opening.beside += ".new";
+    place = opening.beside;
+  }
+  const bool reads = mode == ChannelMode::input;
+  std::error_code ignored;  // what hinders the look hinders the opening too
+  const bool folder = fs::is_directory(place, ignored);  // some systems open one for input
+  opening.file = folder ? nullptr : std::fopen(place.string().c_str(), reads ? "rb" : "wb");
+  if (opening.file == nullptr) {
+    const std::string reason = folder ? " (it is a folder)." : because(errno);
+    if (reads) fail(ErrorNumber::fileNotFound, opening.name, "can't be opened" + reason);
+    fail(ErrorNumber::fileAccess, opening.name, "can't be written" + reason);
+  }
+  channels[channel] = opening;
+}
+
+i16 freeChannel() {
+  i16 channel = 1;
+  while (isChannelOpen(channel)) ++channel;
+  return channel;
+}
+
+bool isChannelOpen(i16 channel) { return channels.count(channel) != 0; }
+
+const std::string& channelName(i16 channel) {
+  static const std::string none;
+  const auto found = channels.find(channel);
+  return found == channels.end() ? none : found->second.name;
+}
+
+bool endOfFile(i16 channel) { return peekByte(opened(channel, true)) == EOF; }
+
+i32 channelLine(i16 channel) { return opened(channel, true).line; }
+
+std::string readLine(i16 channel, const std::string& fieldName) {
+  Channel& from = opened(channel, true);
+  int byte = nextByte(from);
+  if (byte == EOF) failShort(from, fieldName);
+  std::string line;
+  for (; byte != EOF && !isLineEnd(byte); byte = nextByte(from)) line += static_cast<char>(byte);
+  finishLineEnd(from, byte);
+  return line;
+}
+
+std::string readField(i16 channel, const std::string& fieldName) {
+  Channel& from = opened(channel, true);
+  int byte = nextByte(from);
+  if (byte == EOF) failShort(from, fieldName);
+  while (isBlank(byte)) byte = nextByte(from);
+  std::string field;
+  const auto ends = [](int c) { return c == EOF || c == ',' || isLineEnd(c); };
+  if (byte == '"') {
+    for (byte = nextByte(from); byte != EOF && byte != '"'; byte = nextByte(from)) {
+      field += static_cast<char>(byte);
+    }
+    while (!ends(byte)) byte = nextByte(from);
+  } else {
+    for (; !ends(byte); byte = nextByte(from)) field += static_cast<char>(byte);
+    while (!field.empty() && isBlank(field.back())) field.pop_back();
+  }
+  finishLineEnd(from, byte);
+  return field;
+}
+
+void writeLine(i16 channel, const std::string& text) {
+  Channel& to = opened(channel, false);
+  const std::string line = text + "\r\n";
+  if (std::fwrite(line.data(), 1, line.size(), to.file) != line.size()) {
+    fail(ErrorNumber::fileAccess, to.name, "can't be written" + because(errno));
+  }
+}
+
+void flushChannel(i16 channel) {
+  Channel& to = opened(channel, false);
+  if (std::fflush(to.file) != 0) {
+    fail(ErrorNumber::fileAccess, to.name, "can't be written" + because(errno));
+  }
+}
+
+void closeChannel(i16 channel) {
+  const auto found = channels.find(channel);
+  if (found == channels.end()) return;
+  const Channel closing = found->second;
+  channels.erase(found);
+
+  // A write that failed long ago still counts, also if the disk has room again.
+  errno = EIO;
+  bool complete = closing.mode == ChannelMode::input ||
+                  (std::ferror(closing.file) == 0 && std::fflush(closing.file) == 0);
+  if (closing.mode == ChannelMode::replace) complete = complete && flushToDisk(closing.file);
+  std::error_code error(complete ? 0 : errno, std::generic_category());
+  if (std::fclose(closing.file) != 0 && complete) {
+    complete = false;
+    error.assign(errno, std::generic_category());
+  }
+  if (closing.mode == ChannelMode::replace && complete) {
+    fs::rename(closing.beside, closing.target, error);
+    if (!error) flushFolder(closing.target.parent_path());
+  }
+  if (error) {
+    std::error_code ignored;
+    if (closing.mode == ChannelMode::replace) fs::remove(closing.beside, ignored);
+    fail(ErrorNumber::fileAccess, closing.name, "can't be written (" + error.message() + ").");
+  }
+}
+
+void abandonChannel(i16 channel) {
+  const auto found = channels.find(channel);
+  if (found == channels.end()) return;
+  const Channel closing = found->second;
+  channels.erase(found);
+  std::fclose(closing.file);
+  std::error_code ignored;
+  if (closing.mode == ChannelMode::replace) fs::remove(closing.beside, ignored);
+}
+
+void deleteFile(const std::string& path) {
+  std::error_code error;
+  const bool deleted = fs::remove(nativePath(path), error);
+  if (error) fail(ErrorNumber::fileAccess, path, "can't be deleted (" + error.message() + ").");
+  if (!deleted) fail(ErrorNumber::fileNotFound, path, "can't be deleted: it isn't there.");
+}
+
+}  // namespace glonks
