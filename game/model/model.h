@@ -11,7 +11,7 @@
 
 // The records and game-wide variables of the play engine: one game at a time, on one thread. A game
 // tick is a value of gameTick(): milliseconds of game time. An upper bound of -1 means an empty
-// list. "Reset" is the value that initVariables gives at the start of each game.
+// list. "Reset" is the value that initVariables sets at the start of each game.
 namespace glonks {
 
 inline constexpr i16 rowCount = 7;       // row 0 at the bottom
@@ -111,8 +111,17 @@ struct Frog {
 
 inline std::array<Row, rowCount> playfield;
 
-inline Cell& cellAt(i32 row, i32 column) {
-  return playfield[static_cast<std::size_t>(row)][column];
+inline Row& rowAt(i32 row) { return playfield[static_cast<std::size_t>(row)]; }
+inline Cell& cellAt(i32 row, i32 column) { return rowAt(row)[column]; }
+
+// All cells in which a piece rests, from the bottom row up and from left to right.
+template <typename Action>
+void forEachPieceAtRest(Action action) {
+  for (Row& row : playfield) {
+    for (Cell& cell : row.cells) {
+      if (cell.occupied == True) action(cell);
+    }
+  }
 }
 
 inline constexpr i16 catalogSlots = 20;
@@ -124,6 +133,9 @@ inline Piece& catalogEntry(i32 slot) { return pieceCatalog[static_cast<std::size
 
 inline std::vector<Piece> fallingPieces;
 inline i16 fallingPiecesUpper = -1;
+
+inline Piece& fallingPiece(i32 index) { return fallingPieces[static_cast<std::size_t>(index)]; }
+
 inline std::vector<Impact> impacts;
 inline i16 impactsUpper = -1;
 inline std::vector<Zap> zaps;
@@ -146,11 +158,13 @@ inline constexpr i16 midnightBowlingItem = 5;
 inline i32 score = 0;                              // reset: 0
 inline i16 bank = 0;                               // credits; kept from game to game
 inline std::array<i16, itemKinds> itemStock = {};  // goods held; kept
-inline i32 notesCollected = 0;                     // Music pieces removed so far; kept
-inline i16 selectedRow = 0;                        // row under the pointer, 0 to 6; reset: 0
+inline i16& stockOf(i32 item) { return itemStock[static_cast<std::size_t>(item)]; }
+inline i32 notesCollected = 0;           // Music pieces removed so far; kept
+inline i16 selectedRow = 0;              // row under the pointer, 0 to 6; reset: 0
 inline std::string modeName;             // set by the Play button; item keys need "Freestyle"
 inline i32 spawnInterval = 0;            // ms between two spawns; set by the level file
 inline Flag gameOver = False;            // ends the play loop at the top of its next pass
+inline Flag inPlay = False;              // a play loop is running; set by it
 inline Flag paused = False;              // a pause is in force
 inline i32 lastKeyTick = 0;              // game tick of the last key handled
 inline i32 nextPointsTick = 0;           // game tick at which the next time points fall due
@@ -174,7 +188,7 @@ inline void payScore(i64 points) { score = clamped<i32>(score + points); }
 // Takes one off a count; it stays at the end of its 16 bits.
 inline void countDown(i16& count) { count = clamped<i16>(i32{count} - 1); }
 
-// What "no goal" reads in the level fields.
+// How "no goal" reads in the level fields.
 inline const std::string noName = "-1";
 
 inline std::string levelTitle;              // reset: empty
@@ -196,7 +210,7 @@ inline Flag landOn = False;  // pieces named landName that must still land;
 inline i16 landLeft = -1;    // reset: False, -1, "-1"
 inline std::string landName = noName;
 inline i32 minuteStart = 0;     // game tick at which a timer's minute began; reset: 0
-inline Flag levelOver = False;  // the outcome is decided; set by the level's loading
-inline Flag levelWon = False;   // the level was won; set by the level's loading
+inline Flag levelOver = False;  // the outcome is decided; cleared with the level's loading
+inline Flag levelWon = False;   // the level was won; cleared with the level's loading
 
 }  // namespace glonks

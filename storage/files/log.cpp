@@ -22,7 +22,7 @@ void attempt(Action action) {
   }
 }
 
-// Hands each line to the system at once: the last one of a log that breaks off tells which step
+// Hands each line to the system at once: the last line of a log that breaks off shows which step
 // failed.
 void writeEntry(const std::string& line) {
   attempt([&] {
@@ -50,6 +50,11 @@ void writeLog(std::string& text, Flag pad) {
 void logStep(const std::string& text) {
   std::string line = text;
   writeLog(line, True);
+}
+
+void logLine(const std::string& text) {
+  std::string line = text;
+  writeLog(line, False);
 }
 
 void closeLog() {

@@ -1,6 +1,7 @@
 #include "game/arcade.h"
 
 #include "rules/boardscan.h"
+#include "rules/levelgoals.h"
 #include "shell/playbutton.h"
 #include "storage/files/log.h"
 #include "tests/engine/boardtest.h"

@@ -7,6 +7,7 @@
 #include "game/model/gametick.h"
 #include "game/model/resources.h"
 #include "present/keys.h"
+#include "present/pause.h"
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "rules/falling.h"
@@ -35,7 +36,7 @@ class EngineTest : public TempFolder {
     fake::resetRandom();
     fake::resetToolkit();
     fake::resetWindow();
-    fConsole_Show(readKeys);
+    fConsole_Show(readKeys, pauseByCloseBox);
     initDX();
     songNames.clear();
     themeName = "Cells";
