@@ -41,8 +41,8 @@ void win() {
   levelWon = True;
 }
 
-// Once the level is decided, the game ends when the ticker is empty. An oddity that is kept: with a
-// survival timer the test runs the other way, so that an open goal wins such a level at once.
+// Once the level is decided, the game ends when the ticker is empty. Oddity 24: with a survival
+// timer the test runs the other way, so that an open goal wins such a level at once.
 void testOutcome() {
   if (levelOver == True) {
     if (tickerUpper < 0) gameOver = True;

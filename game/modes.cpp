@@ -21,7 +21,7 @@ const Mode table[] = {
      .itemKeys = True,
      .counter = Counter::stock,
      .scoreTable = True},
-    // An oddity that is kept: the item keys work here too, though no counter shows the stock.
+    // Oddity 8: the item keys work here too, though no counter shows the stock.
     {.modeTitle = "Arcade",
      .modeDescription =
          "Every level challenges you with new situations and new goals.  How far can you go?",

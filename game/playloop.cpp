@@ -31,9 +31,8 @@ void runAll(const std::vector<Statement>& statements, Runner run) {
   for (const Statement statement : statements) run(statement);
 }
 
-// The order within a frame is part of the rules. An oddity that is kept: the background is laid
-// after the Flip, so the first frame lies on the loading screen and the first after a pause on its
-// line.
+// The order within a frame is part of the rules. Oddity 6: the background is laid after the Flip,
+// so the first frame lies on the loading screen and the first after a pause on its line.
 void runFrame(const LoopMode& mode, i32& nextFrame) {
   stepRules(mode.run);
   if (isScreenGone()) return;
@@ -72,8 +71,8 @@ void runPlainly(Statement statement) { statement(); }
 void stepRules(Runner run) {
   run(movePieces);
   if (pendingSpawns > 0) {
-    // An oddity that is kept: the count is taken before the first spawn, and what these spawns
-    // queue themselves is lost.
+    // Oddity 5: the count is taken before the first spawn, and what these spawns queue themselves
+    // is lost.
     for (i16 left = pendingSpawns; left > 0; --left) run(spawnPiece);
     pendingSpawns = 0;
   }

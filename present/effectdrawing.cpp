@@ -68,8 +68,8 @@ void drawPopups() {
                          False);
     popup.y = clamped<i16>(i32{popup.y} - popupStep);
   }
-  // An oddity that is kept: points count only when their popup has climbed out. Those that still
-  // climb when a game ends are lost.
+  // Oddity 17: points count only when their popup has climbed out. Those that still climb when a
+  // game ends are lost.
   for (const ScorePopup& popup : scorePopups) {
     if (popup.y <= popupEnd) payScore(popup.points);
   }

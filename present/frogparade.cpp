@@ -30,8 +30,7 @@ void turnPicture(Frog& frog) {
   if (frog.picture > frogPictureCount) frog.picture = 1;
 }
 
-// An oddity that is kept: a frog is drawn where it was, but only if where it goes is still on the
-// screen.
+// Oddity 19: a frog is drawn where it was, but only if where it goes is still on the screen.
 void moveFrog(Frog& frog, bool restarts) {
   const i32 left = frog.x;
   const i32 top = frog.y;

@@ -30,7 +30,7 @@ void drawTime(i32 y, i16 minutes) {
 
 void drawGoals() {
   i32 line = firstLineY;
-  // An oddity that is kept: these two lie over each other, and so do the two timers.
+  // Oddity 20: these two lie over each other, and so do the two timers.
   if (landOn == True) {
     drawCount(firstLineY, landName, landLeft);
     line = firstLineY + linePitch;

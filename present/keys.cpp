@@ -91,7 +91,7 @@ void readKeys() {
   for (const ScanCode code : {key1, key2, key3, key4}) {
     if (isDown(code)) wanted = code;
   }
-  // An oddity that is kept: the gate doesn't hold these two, so a held P toggles at each repeat.
+  // Oddity 7: the gate doesn't hold these two, so a held P toggles at each repeat.
   if (isDown(keyN)) nextSong();
   if (isDown(keyP)) togglePause();
   // The last key found down wins: Escape before Down before Up before Right before Left.

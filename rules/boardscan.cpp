@@ -66,9 +66,9 @@ void payBauble(Cell& cell) {
   settlePieces();
 }
 
-// What a piece does follows from its flags, each looked at in turn. An oddity that is kept: a piece
-// that one of these steps has taken off the board goes through the later ones all the same, and is
-// left out of the Slammers only.
+// What a piece does follows from its flags, each looked at in turn. Oddity 12: a piece that one of
+// these steps has taken off the board goes through the later ones all the same, and is left out of
+// the Slammers only.
 void scanCell(i16 row, i16 column, Collected& collected) {
   Cell& cell = cellAt(row, column);
   if (cell.occupied != True) return;
@@ -89,7 +89,7 @@ void scanCell(i16 row, i16 column, Collected& collected) {
   if (cell.isBauble == True && hasExpired(cell)) payBauble(cell);
 }
 
-// An oddity that is kept: a Shifter that has just been slammed shifts its row this once more.
+// Oddity 11: a Shifter that has just been slammed shifts its row this once more.
 void shiftRows(const std::vector<ShifterTurn>& turns) {
   const i16 pointedAt = selectedRow;
   for (const ShifterTurn& turn : turns) {

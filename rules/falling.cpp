@@ -18,8 +18,8 @@ void digWithBall(Piece& ball) {
   if (ball.y > ballEnd) ball.alive = False;
 }
 
-// An oddity that is kept: the reversal doesn't look at the sign, so a piece that is still rising
-// when the floor rises above it is sent down.
+// Oddity 4: the reversal doesn't look at the sign, so a piece that is still rising when the floor
+// rises above it is sent down.
 void bounce(Piece& piece, i16 floor) {
   piece.velocity = static_cast<i16>(roundHalfEven(-piece.velocity * bounceFactor));
   ++piece.bounces;
@@ -34,7 +34,7 @@ i16 firstFreeRow(i16 column) {
   for (i16 row = 0; row < rowCount; ++row) {
     if (cellAt(row, column).occupied == False) return row;
   }
-  // An oddity that is kept: a piece falls through a full column before the game is lost.
+  // Oddity 3: a piece falls through a full column before the game is lost.
   return 0;
 }
 

@@ -15,8 +15,8 @@ namespace {
 constexpr i32 fruitValue = 100;  // points more
 constexpr std::array<const char*, 4> fruitPictures = {"apple", "orange", "cherry", "grapes"};
 
-// Only the catalogue's pictures are ever drawn. An oddity that is kept: every Glonk of the game
-// gets one of its own, from the file again.
+// Only the catalogue's pictures are ever drawn. Oddity 25: every Glonk of the game gets one of its
+// own, from the file again.
 void turnToFruit(Piece& piece) {
   if (piece.name != "Glonk") return;
   const auto fruit = static_cast<std::size_t>(piece.variety) - 1;  // by variety, from 1

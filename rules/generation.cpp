@@ -42,8 +42,8 @@ void spawnPiece() {
   Piece& piece = grow(fallingPieces, fallingPiecesUpper);
   rtcRandomize(clockSeed());
   const i32 draw = drawBelow(draws);
-  // Where ranges overlap the highest slot wins. An oddity that is kept: a slot that the level
-  // doesn't name has the range 0 to 0, and so takes part in draw 0.
+  // Where ranges overlap the highest slot wins. Oddity 2: a slot that the level doesn't name has
+  // the range 0 to 0, and so takes part in draw 0.
   for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
     const Piece& entry = catalogEntry(slot);
     if (entry.spawnLow <= draw && entry.spawnHigh >= draw) piece = entry;

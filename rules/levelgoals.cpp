@@ -18,12 +18,12 @@ bool hasPieceGoal() { return goalPieceName != noName && goalPieceName != "Nothin
 // nothing counts down, so that only negative ones make it so: from the last minute on.
 bool countsAsOver(i16 minutes, i16 seconds) { return seconds < 0 && minutes <= 0; }
 
-// An oddity that is kept: a timer runs out only in a frame of its last second. One that begins with
-// no minutes, or whose last second passes without a frame, never does.
+// Oddity 23: a timer runs out only in a frame of its last second. One that begins with no minutes,
+// or whose last second passes without a frame, never does.
 bool hasRunOut(i16 minutes) { return secondsLeft() == 0 && minutes == 0; }
 
-// An oddity that is kept: both timers of a level share minuteStart, so the time limit, which is
-// looked at first, takes all the minutes.
+// Oddity 21: both timers of a level share minuteStart, so the time limit, which is looked at first,
+// takes all the minutes.
 void stepMinute(i16& minutes) {
   if (secondsLeft() >= 0) return;
   minuteStart = gameTick();
@@ -66,8 +66,7 @@ void stepSurvival() {
   stepMinute(surviveMinutes);
 }
 
-// An oddity that is kept: the seconds of the level's file only switch a timer on; each minute
-// begins at 59.
+// Oddity 22: the seconds of the level's file only switch a timer on; each minute begins at 59.
 i32 secondsLeft() {
   const double passed = (static_cast<double>(gameTick()) - minuteStart) / msPerSecond;
   return 59 - static_cast<i32>(std::floor(passed));

@@ -21,8 +21,8 @@ constexpr i16 lastSpreadColumn = 6;
 constexpr std::size_t glonkVarieties = 4;  // 1 to 4
 constexpr i32 fruitPoints = 5000;
 
-// An oddity that is kept: a Bauble that is overdue, but hasn't been scanned yet, counts for no
-// piece goal, though it queues its pieces.
+// Oddity 16: a Bauble that is overdue, but hasn't been scanned yet, counts for no piece goal,
+// though it queues its pieces.
 void countForGoals(const Cell& cell) {
   if (cell.name == avoidName) countDown(avoidLeft);
   if (cell.name != goalPieceName) return;
@@ -53,9 +53,9 @@ void knockOverByChance(i16 row, i32 column) {
   if (drawBelow(2) == 1) removePiece(row, static_cast<i16>(column));
 }
 
-// A Pin takes its neighbours below and, by chance, beside it. Two oddities that are kept: right of
-// column 6 nothing is taken on that side, and a neighbouring Pin may spread back to this one, which
-// is still there and then falls, pays and counts twice.
+// A Pin takes its neighbours below and, by chance, beside it. Oddity 13: right of column 6 nothing
+// is taken on that side. Oddity 14: a neighbouring Pin may spread back to this one, which is still
+// there and then falls, pays and counts twice.
 void spread(i16 row, i16 column) {
   const Cell& pin = cellAt(row, column);
   impactAt(pin, False);
@@ -112,7 +112,7 @@ void explodeBomb(i16 row, i16 column) {
   const Cell& bomb = cellAt(row, column);
   removePiece(row, column);
   impactAt(bomb, False);
-  // An oddity that is kept: with this and its removal a Bomb pays its value twice.
+  // Oddity 15: with this and its removal a Bomb pays its value twice.
   popupAt(bomb, bomb.value);
   const bool fruitCocktail = blast(row, column);
   settlePieces();

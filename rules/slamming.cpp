@@ -35,8 +35,7 @@ struct Segments {
   std::vector<Segment> columns;
 };
 
-// An oddity that is kept: every pair is entered twice, as (i, j) and as (j, i), and the bonus
-// counts all of it.
+// Oddity 9: every pair is entered twice, as (i, j) and as (j, i), and the bonus counts all of it.
 Segments pairUp(const std::vector<SlammerPlace>& slammers, i16 upper) {
   Segments segments;
   for (i32 i = 0; i <= upper; ++i) {
@@ -64,8 +63,8 @@ Elimination placeAt(const Segment& segment, i16 at, Flag horizontal) {
 Cell& cellOf(const Elimination& place) { return cellAt(place.row, place.column); }
 
 // Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
-// Slammers counts as well. An oddity that is kept: the Slammers themselves aren't looked at, so one
-// that a Bomb has taken since the scan saw it still closes its segment.
+// Slammers counts as well. Oddity 10: the Slammers themselves aren't looked at, so one that a Bomb
+// has taken since the scan saw it still closes its segment.
 bool isRun(const Segment& segment, Flag horizontal) {
   const Cell& first = cellOf(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
   if (first.occupied != True) return false;

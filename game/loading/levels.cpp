@@ -60,8 +60,8 @@ void readGoals() {
   landOn = flagOf(landLeft != -1);
 }
 
-// An oddity that is kept: the two numbers of an entry are read only where a catalogue slot matches.
-// After an entry for an unknown piece everything moves up by two fields.
+// Oddity 1: the two numbers of an entry are read only where a catalogue slot matches. After an
+// entry for an unknown piece everything moves up by two fields.
 void readSpawnEntry() {
   const std::string name = readField(levelChannel, "name of a spawn entry");
   const i16 variety = readWholeI16(levelChannel, "variety of spawn entry \"" + name + "\"");

@@ -27,8 +27,7 @@ Surface glyphFor(char character) {
   return index < glyphCount ? glyphSurfaces[static_cast<std::size_t>(index)] : nullptr;
 }
 
-// An oddity that is kept: nothing waits, so of several announcements in one frame only the last is
-// seen.
+// Oddity 18: nothing waits, so of several announcements in one frame only the last is seen.
 void pushMessage(const std::string& text) {
   tickerLines.clear();
   tickerUpper = -1;
