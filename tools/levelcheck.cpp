@@ -169,6 +169,11 @@ class LevelCheck {
     return goals;
   }
 
+  bool isPiece(const std::string& name) const {
+    return std::any_of(pieces_.begin(), pieces_.end(),
+                       [&name](const Piece& piece) { return piece.name == name; });
+  }
+
   Counted readCounted(const std::string& countName, const std::string& pieceName) {
     Field count = toNumber(textOf(countName));
     Field piece = textOf(pieceName);
@@ -178,12 +183,7 @@ class LevelCheck {
       if (!none) fault(piece, "isn't -1, but " + countName + " is.");
     } else if (count.number) {
       if (*count.number < 1) fault(count, "is neither -1 nor above 0.");
-      const bool known = std::any_of(pieces_.begin(), pieces_.end(),
-                                     [&](const Piece& entry) { return entry.name == piece.text; });
-      if (!known) {
-        fault(piece, "\"" + piece.text + "\" is no piece's name.");
-        count.number.reset();
-      }
+      if (!isPiece(piece.text)) fault(piece, "\"" + piece.text + "\" is no piece's name.");
     }
     return {count, piece};
   }
@@ -262,7 +262,8 @@ class LevelCheck {
 
   bool checkComes(const Field& piece, const LevelReach& reach) {
     const bool comes = reach.comes(piece.text);
-    if (!comes) fault(piece, "\"" + piece.text + "\" never comes in this level.");
+    if (!comes && isPiece(piece.text))
+      fault(piece, "\"" + piece.text + "\" never comes in this level.");
     return comes;
   }
 
@@ -317,13 +318,13 @@ class LevelCheck {
       if (piece == pieces_.end()) fault(line, "there is no piece " + shown + ".");
       if (!named.insert(kind).second) fault(line, shown + " has an entry before.");
     }
+    // With draw 0 alone a piece may not come at all: a higher slot that has no entry takes it.
+    if (piece != pieces_.end() && high.number != 0) reach.add(*piece);
     if (!low.number || !high.number) return;
     if (*low.number < 0 || *high.number < *low.number || *high.number >= i32{draws}) {
       fault(line, "spawnLow and spawnHigh are no range from 0 to 999.");
       return;
     }
-    // A higher slot may take draw 0 away.
-    if (piece != pieces_.end() && *high.number > 0) reach.add(*piece);
     Marks twice = {};
     const auto last = static_cast<std::size_t>(*high.number);
     for (auto draw = static_cast<std::size_t>(*low.number); draw <= last; ++draw) {
