@@ -48,7 +48,7 @@ struct Counted {
   Field piece;
 };
 
-// Counts, the score and minutes: -1 for what is off, none for what can't be told.
+// Counts, the score and minutes: -1 for what is off, none for what can't be read.
 struct Goals {
   Counted remove;
   Field score;
@@ -215,7 +215,7 @@ class LevelCheck {
   }
 
   // Without a survival timer a level is won as soon as no goal is open, and with one as soon as a
-  // goal is; the two timers share their minute, and the lines of the last two lie over each other.
+  // goal is; the two timers share their minute, and the lines of the avoid and land goals overlap.
   void checkTogether(const Goals& goals) {
     const auto& [remove, score, limit, survive, avoid, land] = goals;
     for (const Field* field :
@@ -262,15 +262,17 @@ class LevelCheck {
 
   bool checkComes(const Field& piece, const LevelReach& reach) {
     const bool comes = reach.comes(piece.text);
-    if (!comes && isPiece(piece.text))
+    if (!comes && isPiece(piece.text)) {
       fault(piece, "\"" + piece.text + "\" never comes in this level.");
+    }
     return comes;
   }
 
   void checkBound(const Field& goal, double most) {
-    if (*goal.number <= most) return;
-    fault(goal, "is more than the " + plainNumber(static_cast<i64>(most)) +
-                    " that the time limit has room for.");
+    if (*goal.number > most) {
+      fault(goal, "is more than the " + plainNumber(static_cast<i64>(most)) +
+                      " that the time limit has room for.");
+    }
   }
 
   // Checks the spawn entries, and returns what comes by them.

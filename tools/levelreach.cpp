@@ -44,7 +44,6 @@ bool LevelReach::some(Flag Piece::*flag) const {
 }
 
 bool LevelReach::comes(const std::string& name) const {
-  if (name == "Gorgon" && some(&Piece::isGorgon)) return true;
   return some([&name](const Piece& piece) { return piece.name == name; });
 }
 

@@ -12,7 +12,8 @@ namespace glonks {
 class LevelReach {
  public:
   // A piece that comes. A piece that only comes by draw 0 because the level doesn't name it isn't
-  // one: that is once in a thousand spawns, and no level is made for it.
+  // one: that is once in a thousand spawns, and no level is made for it. Gorgons are bred only
+  // where one comes.
   void add(const Piece& piece) { pieces_.push_back(piece); }
 
   bool comes(const std::string& name) const;

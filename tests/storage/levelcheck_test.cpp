@@ -65,9 +65,9 @@ const Broken brokenFiles[] = {
       "Gorgon,0,0,499", "Bowling Ball,0,500,999"},
      {1, 5, 6}},
     {"levels/25",
-     {"60000", "Paid", "Two", "12", "9,Bauble", "18471", "1,1", "-1,-1", "-1,-1", "8,Bauble",
+     {"60000", "Paid", "Two", "12", "9,Bauble", "18470", "1,1", "-1,-1", "-1,-1", "8,Bauble",
       "Calculator,0,0,499", "Bauble,0,500,799", "Slammer,0,800,999"},
-     {1, 5, 6}}};
+     {1, 5}}};
 
 using LevelCheck = TempFolder;
 
