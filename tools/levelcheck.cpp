@@ -224,8 +224,9 @@ class LevelCheck {
     }
     const bool open = isOn(remove.count) || isOn(score) || isOn(land.count);
     if (!isOn(survive)) {
-      if (!open)
+      if (!open) {
         fault(remove.count.line, "there is no piece, score or land goal and no survival timer.");
+      }
     } else {
       if (open) fault(survive.line, "a survival timer and a piece, score or land goal.");
       if (isOn(limit)) fault(survive.line, "a survival timer and a time limit.");
@@ -233,7 +234,7 @@ class LevelCheck {
     if (isOn(avoid.count) && isOn(land.count)) {
       fault(land.count.line, "an avoid goal and a land goal.");
     }
-    if (isOn(remove.count) && remove.piece.text == avoid.piece.text &&
+    if (isOn(remove.count) && isOn(avoid.count) && remove.piece.text == avoid.piece.text &&
         *remove.count.number >= *avoid.count.number) {
       fault(remove.count.line, "the avoid goal fails before the piece goal is reached.");
     }
