@@ -211,7 +211,7 @@ struct Plan {
   double worth = 0;
 };
 
-// The best turn of one row, with up to `more` turns of other rows behind it.
+// The best turn of one row, with up to `more` turns of other rows after it.
 Plan bestPlan(const Board& board, i32 pointer, i32 more) {
   constexpr double keyCost = 0.5;
   Plan best{pointer, 0, lieOf(board)};

@@ -1,5 +1,6 @@
 #include "tools/levelcheck.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <map>
@@ -9,9 +10,12 @@
 
 #include "base/errors.h"
 #include "base/text.h"
+#include "game/loading/levels.h"
 #include "game/loading/pieces.h"
 #include "game/model/model.h"
+#include "storage/files/fieldreader.h"
 #include "storage/files/textchannels.h"
+#include "tools/levelreach.h"
 
 namespace glonks {
 namespace {
@@ -21,6 +25,7 @@ namespace fs = std::filesystem;
 constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
 constexpr std::size_t longestTitle = 636;  // what the ticker takes
+constexpr double minute = 60'000;          // ms
 const std::string freestyleFile = "2193";
 
 struct Field {
@@ -37,15 +42,23 @@ struct Level {
   Field reward;
 };
 
-// Counts, the score and minutes: -1 for what is off, none for what can't be told.
-struct Goals {
+// A goal of so many pieces of a name.
+struct Counted {
+  Field count;
   Field piece;
+};
+
+// Counts, the score and minutes: -1 for what is off, none for what can't be read.
+struct Goals {
+  Counted remove;
   Field score;
   Field limit;
   Field survive;
-  Field avoid;
-  Field land;
+  Counted avoid;
+  Counted land;
 };
+
+bool isOn(const Field& goal) { return goal.number.value_or(-1) != -1; }
 
 using Entry = std::array<Field, 4>;
 using Kind = std::pair<std::string, i32>;  // name and variety
@@ -106,11 +119,22 @@ class LevelCheck {
   }
 
   void readKind() {
+    Piece& piece = pieces_.emplace_back();
     const Field name = textOf("name");
     if (name.text.empty()) fault(name, "is empty.");
-    names_.insert(name.text);
-    const Field variety = toNumber(textOf("variety"));
-    if (variety.number) kinds_.insert({name.text, *variety.number});
+    piece.name = name.text;
+    piece.variety = static_cast<i16>(toNumber(textOf("variety")).number.value_or(0));
+    textOf("picture");
+    for (Flag Piece::*const flag :
+         {&Piece::bombable, &Piece::spareFlagA, &Piece::slammable, &Piece::isBauble, &Piece::isBomb,
+          &Piece::isCalculator, &Piece::isDiamond, &Piece::isGorgon, &Piece::isShifter,
+          &Piece::isMoney, &Piece::spareFlagB, &Piece::isBowlingBall, &Piece::isSlammer}) {
+      piece.*flag = readFlag(plainChannel, "flag");
+    }
+    for (i32 Piece::*const number : {&Piece::value, &Piece::timerMax, &Piece::timerMin}) {
+      piece.*number = readI32(plainChannel, "number");
+    }
+    piece.isPin = readFlag(plainChannel, "isPin");
   }
 
   void checkLevel() {
@@ -118,11 +142,16 @@ class LevelCheck {
     Level* level = name == freestyleFile ? nullptr : &levels_[name];
     const Field interval = toNumber<i32>(textOf("spawnInterval"));
     if (interval.number && *interval.number < 1) fault(interval, "isn't above 0.");
-    if (level != nullptr) checkHead(*level);
-    checkEntries();
+    if (interval.number && *interval.number > longestInterval) {
+      fault(interval, "is above " + plainNumber(longestInterval) + ".");
+    }
+    Goals goals;
+    if (level != nullptr) goals = checkHead(*level);
+    const LevelReach reach = checkEntries();
+    checkReach(goals, interval, reach);
   }
 
-  void checkHead(Level& level) {
+  Goals checkHead(Level& level) {
     const Field title = textOf("levelTitle", readLine);
     level.title = title.text;
     if (trimmed(title.text).empty()) fault(title, "is empty.");
@@ -130,25 +159,33 @@ class LevelCheck {
     level.rewardName = textOf("rewardLevelName", readLine);
     level.reward = toNumber(textOf("rewardLevelFile", readLine));
     // The order of the file.
-    checkTogether({readCounted("goalPieceCount", "goalPieceName"), readScore(),
-                   readTimer("limitMinutes", "limitSeconds"),
-                   readTimer("surviveMinutes", "surviveSeconds"),
-                   readCounted("avoidLeft", "avoidName"), readCounted("landLeft", "landName")});
+    const Goals goals = {readCounted("goalPieceCount", "goalPieceName"),
+                         readScore(),
+                         readTimer("limitMinutes", "limitSeconds"),
+                         readTimer("surviveMinutes", "surviveSeconds"),
+                         readCounted("avoidLeft", "avoidName"),
+                         readCounted("landLeft", "landName")};
+    checkTogether(goals);
+    return goals;
   }
 
-  // A goal of so many pieces of a name.
-  Field readCounted(const std::string& countName, const std::string& pieceName) {
+  bool isPiece(const std::string& name) const {
+    return std::any_of(pieces_.begin(), pieces_.end(),
+                       [&name](const Piece& piece) { return piece.name == name; });
+  }
+
+  Counted readCounted(const std::string& countName, const std::string& pieceName) {
     Field count = toNumber(textOf(countName));
-    const Field piece = textOf(pieceName);
+    Field piece = textOf(pieceName);
     if (count.number == -1) {
       const bool mayBeNothing = pieceName == "goalPieceName";
       const bool none = piece.text == noName || (mayBeNothing && piece.text == "Nothing");
       if (!none) fault(piece, "isn't -1, but " + countName + " is.");
     } else if (count.number) {
       if (*count.number < 1) fault(count, "is neither -1 nor above 0.");
-      if (names_.count(piece.text) == 0) fault(piece, "\"" + piece.text + "\" is no piece's name.");
+      if (!isPiece(piece.text)) fault(piece, "\"" + piece.text + "\" is no piece's name.");
     }
-    return count;
+    return {count, piece};
   }
 
   Field readScore() {
@@ -178,37 +215,83 @@ class LevelCheck {
   }
 
   // Without a survival timer a level is won as soon as no goal is open, and with one as soon as a
-  // goal is; the two timers share their minute, and the lines of the last two lie over each other.
+  // goal is; the two timers share their minute, and the lines of the avoid and land goals overlap.
   void checkTogether(const Goals& goals) {
-    const auto& [piece, score, limit, survive, avoid, land] = goals;
-    for (const Field* field : {&piece, &score, &limit, &survive, &avoid, &land}) {
+    const auto& [remove, score, limit, survive, avoid, land] = goals;
+    for (const Field* field :
+         {&remove.count, &score, &limit, &survive, &avoid.count, &land.count}) {
       if (!field->number) return;
     }
-    const bool open = *piece.number != -1 || *score.number != -1 || *land.number != -1;
-    if (*survive.number == -1) {
-      if (!open) fault(piece.line, "there is no piece, score or land goal and no survival timer.");
+    const bool open = isOn(remove.count) || isOn(score) || isOn(land.count);
+    if (!isOn(survive)) {
+      if (!open) {
+        fault(remove.count.line, "there is no piece, score or land goal and no survival timer.");
+      }
     } else {
       if (open) fault(survive.line, "a survival timer and a piece, score or land goal.");
-      if (*limit.number != -1) fault(survive.line, "a survival timer and a time limit.");
+      if (isOn(limit)) fault(survive.line, "a survival timer and a time limit.");
     }
-    if (*avoid.number != -1 && *land.number != -1) {
-      fault(land.line, "an avoid goal and a land goal.");
+    if (isOn(avoid.count) && isOn(land.count)) {
+      fault(land.count.line, "an avoid goal and a land goal.");
+    }
+    if (isOn(remove.count) && isOn(avoid.count) && remove.piece.text == avoid.piece.text &&
+        *remove.count.number >= *avoid.count.number) {
+      fault(remove.count.line, "the avoid goal fails before the piece goal is reached.");
     }
   }
 
-  void checkEntries() {
+  // A goal has to be one that can be reached, or failed, with the pieces that come.
+  void checkReach(const Goals& goals, const Field& interval, const LevelReach& reach) {
+    const auto& [remove, score, limit, survive, avoid, land] = goals;
+    for (const Counted* goal : {&remove, &avoid}) {
+      if (isOn(goal->count) && checkComes(goal->piece, reach) && !reach.goes(goal->piece.text)) {
+        fault(goal->piece, "\"" + goal->piece.text + "\" can't be removed by anything that comes.");
+      }
+    }
+    if (isOn(land.count) && checkComes(land.piece, reach) && !reach.lands(land.piece.text)) {
+      fault(land.piece, "\"" + land.piece.text + "\" never comes to rest.");
+    }
+    if (!isOn(limit) || interval.number.value_or(0) < 1) return;
+    const double time = *limit.number * minute;
+    for (const Counted* goal : {&remove, &land}) {
+      if (isOn(goal->count)) {
+        checkBound(goal->count, reach.mostPieces(goal->piece.text, time, *interval.number));
+      }
+    }
+    if (isOn(score)) checkBound(score, reach.mostPoints(time, *interval.number));
+  }
+
+  bool checkComes(const Field& piece, const LevelReach& reach) {
+    const bool comes = reach.comes(piece.text);
+    if (!comes && isPiece(piece.text)) {
+      fault(piece, "\"" + piece.text + "\" never comes in this level.");
+    }
+    return comes;
+  }
+
+  void checkBound(const Field& goal, double most) {
+    if (*goal.number > most) {
+      fault(goal, "is more than the " + plainNumber(static_cast<i64>(most)) +
+                      " that the time limit has room for.");
+    }
+  }
+
+  // Checks the spawn entries, and returns what comes by them.
+  LevelReach checkEntries() {
+    LevelReach reach;
     std::set<Kind> named;
     Marks free;
     free.fill(true);
     i32 line = channelLine(plainChannel);
     while (!endOfFile(plainChannel)) {
       line = channelLine(plainChannel);
-      if (const auto entry = readEntry()) checkEntry(*entry, named, free);
+      if (const auto entry = readEntry()) checkEntry(*entry, named, free, reach);
     }
     faultRuns(line, free, "no piece for the ", "");
+    return reach;
   }
 
-  // None for a line of more or fewer than four fields, behind which the game would read nonsense.
+  // None for a line of more or fewer than four fields, after which the game would read nonsense.
   std::optional<Entry> readEntry() {
     const i32 line = channelLine(plainChannel);
     const auto ended = [&] { return endOfFile(plainChannel) || channelLine(plainChannel) != line; };
@@ -223,17 +306,23 @@ class LevelCheck {
     return {};
   }
 
-  void checkEntry(const Entry& entry, std::set<Kind>& named, Marks& free) {
+  void checkEntry(const Entry& entry, std::set<Kind>& named, Marks& free, LevelReach& reach) {
     const i32 line = entry[0].line;
     const Field variety = toNumber(entry[1]);
     const Field low = toNumber(entry[2]);
     const Field high = toNumber(entry[3]);
+    const auto isEntry = [&](const Piece& piece) {
+      return piece.name == entry[0].text && piece.variety == variety.number;
+    };
+    const auto piece = std::find_if(pieces_.begin(), pieces_.end(), isEntry);
     if (variety.number) {
       const Kind kind(entry[0].text, *variety.number);
       const std::string shown = "\"" + kind.first + "\" of variety " + plainNumber(kind.second);
-      if (kinds_.count(kind) == 0) fault(line, "there is no piece " + shown + ".");
+      if (piece == pieces_.end()) fault(line, "there is no piece " + shown + ".");
       if (!named.insert(kind).second) fault(line, shown + " has an entry before.");
     }
+    // With draw 0 alone a piece may not come at all: a higher slot that has no entry takes it.
+    if (piece != pieces_.end() && high.number != 0) reach.add(*piece);
     if (!low.number || !high.number) return;
     if (*low.number < 0 || *high.number < *low.number || *high.number >= i32{draws}) {
       fault(line, "spawnLow and spawnHigh are no range from 0 to 999.");
@@ -249,13 +338,13 @@ class LevelCheck {
 
   // A fault for each unbroken run of marked draws.
   void faultRuns(i32 line, const Marks& marked, const std::string& before,
-                 const std::string& behind) {
+                 const std::string& after) {
     for (std::size_t low = 0; low < draws; ++low) {
       if (!marked[low]) continue;
       std::size_t end = low;
       while (end < draws && marked[end]) ++end;
       const std::string run = std::to_string(low) + " to " + std::to_string(end - 1);
-      fault(line, before + "draws " + run + behind + ".");
+      fault(line, before + "draws " + run + after + ".");
       low = end;
     }
   }
@@ -299,8 +388,7 @@ class LevelCheck {
   fs::path folder_;
   fs::path file_;  // the file that faults are about
   std::vector<LevelFault> faults_;
-  std::set<std::string> names_;
-  std::set<Kind> kinds_;
+  std::vector<Piece> pieces_;            // by slot, with what their files say of the rules
   std::map<std::string, Level> levels_;  // Arcade levels by file name
   std::set<std::string> reached_;        // the file names of those that can be opened
 };
