@@ -5,7 +5,7 @@
 
 #include "base/types.h"
 
-// Sound effects. Tests put a list of the sounds played in the place of the device.
+// Sound effects. Tests replace the device by a list of the sounds played.
 namespace glonks {
 
 // How a sample is held: flags 0xE2 (static, with control of frequency, pan and volume).
@@ -53,11 +53,7 @@ class DirectSound {
                                            const SampleFormat& format) = 0;
 };
 
-// The default sound device, opened anew. Without one, all sounds are silent (see takeSoundNotice).
+// The default sound device, opened again. Without one, all sounds are silent (see takeSoundNotice).
 std::shared_ptr<DirectSound> createDirectSound(const std::string& device);
-
-// What has happened to the sound device since the last call, as a line for the log; empty if
-// nothing.
-std::string takeSoundNotice();
 
 }  // namespace glonks
