@@ -75,7 +75,7 @@ void deadenHeldKeys() {
   for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) dead[i] = held[i] != 0;
 }
 
-void resetKeys() {
+void forgetKeys() {
   releaseAllKeys();
   dead.fill(false);
 }

@@ -26,6 +26,6 @@ void releaseAllKeys();
 void deadenHeldKeys();
 
 // All keys are up and none is dead.
-void resetKeys();
+void forgetKeys();
 
 }  // namespace glonks

@@ -9,22 +9,25 @@ namespace {
 
 constexpr i32 smallestWindow = 256;  // pixels
 
-// The size beside the full screen, kept from game to game.
+// What the window is like while it doesn't cover the whole screen; kept from game to game.
 int ownWidth = 1024;
 int ownHeight = 768;
-bool sized = false;  // whether the window that is open has had that size: SDL knows it then
+bool ownMaximised = false;
+bool placed = false;  // whether the window that is open has been so, and has a place to go back to
 
 void noteOwnSize() {
-  const bool wholeScreen = (SDL_GetWindowFlags(sdlWindow) & SDL_WINDOW_MAXIMIZED) != 0;
-  if (!wholeScreen && !isFullScreen()) SDL_GetWindowSize(sdlWindow, &ownWidth, &ownHeight);
+  if (isFullScreen()) return;
+  ownMaximised = (SDL_GetWindowFlags(sdlWindow) & SDL_WINDOW_MAXIMIZED) != 0;
+  if (!ownMaximised) SDL_GetWindowSize(sdlWindow, &ownWidth, &ownHeight);
 }
 
 void takeOwnSize() {
   SDL_Rect room{0, 0, ownWidth, ownHeight};
   SDL_GetDisplayUsableBounds(SDL_GetWindowDisplayIndex(sdlWindow), &room);
   SDL_SetWindowSize(sdlWindow, std::min(ownWidth, room.w), std::min(ownHeight, room.h));
-  SDL_SetWindowPosition(sdlWindow, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
-  sized = true;
+  if (!placed) SDL_SetWindowPosition(sdlWindow, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+  placed = true;
+  if (ownMaximised) SDL_MaximizeWindow(sdlWindow);
 }
 
 }  // namespace
@@ -47,7 +50,7 @@ i32 createSdlWindow(const std::string& caption) {
                                SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
   if (sdlWindow == nullptr) fail(ErrorNumber::serviceFailed, "The game's window can't be opened");
   SDL_SetWindowMinimumSize(sdlWindow, smallestWindow, smallestWindow);
-  sized = false;
+  placed = false;
   return static_cast<i32>(SDL_GetWindowID(sdlWindow));
 }
 
@@ -69,7 +72,7 @@ bool isFullScreen() { return (SDL_GetWindowFlags(sdlWindow) & SDL_WINDOW_FULLSCR
 void switchFullScreen() {
   if (isFullScreen()) {
     SDL_SetWindowFullscreen(sdlWindow, 0);
-    if (!sized) takeOwnSize();
+    takeOwnSize();
   } else {
     noteOwnSize();
     SDL_SetWindowFullscreen(sdlWindow, SDL_WINDOW_FULLSCREEN_DESKTOP);

@@ -95,7 +95,7 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
   focusLost = false;
   minimised = false;
   repaintDue = false;
-  resetKeys();
+  forgetKeys();
   SDL_RaiseWindow(sdlWindow);
   return handle;
 }
