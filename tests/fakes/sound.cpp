@@ -14,7 +14,9 @@ namespace {
 struct ListedBuffer : DirectSoundBuffer {
   explicit ListedBuffer(std::string file) : name(std::move(file)) {}
   void Play(i32) override {
-    if (fake::brokenSamples.count(name) != 0) throw RuntimeError(ErrorNumber::serviceFailed, name);
+    if (fake::brokenSamples.count(name) != 0) {
+      throw RuntimeError(ErrorNumber::serviceFailed, "The sound " + name);
+    }
     fake::sounds.push_back(name);
   }
   void Stop() override { fake::sounds.push_back("stop " + name); }
