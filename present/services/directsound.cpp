@@ -61,26 +61,23 @@ class MixedBuffer : public DirectSoundBuffer {
   Mix_Chunk* chunk_;
 };
 
-class MixedSound : public DirectSound {
- public:
-  void SetCooperativeLevel(i32 /*hWnd*/, i32 /*level*/) override {}
-
-  Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& /*desc*/,
-                                   const SampleFormat& /*format*/) override {
-    const std::vector<unsigned char> bytes = waveBytes(path);
-    if (!hasAudioDevice()) return std::make_shared<SilentBuffer>();
-    SDL_RWops* memory = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-    Mix_Chunk* chunk = Mix_LoadWAV_RW(memory, 1);
-    if (chunk == nullptr) fail(ErrorNumber::badFile, unusable(path));
-    return std::make_shared<MixedBuffer>(chunk);
-  }
-};
-
 }  // namespace
+
+void DirectSound::SetCooperativeLevel(i32 /*hWnd*/, i32 /*level*/) {}
+
+Sample DirectSound::CreateSoundBufferFromFile(const std::string& path, const SampleDesc& /*desc*/,
+                                              const SampleFormat& /*format*/) {
+  const std::vector<unsigned char> bytes = waveBytes(path);
+  if (!hasAudioDevice()) return std::make_shared<SilentBuffer>();
+  SDL_RWops* memory = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+  Mix_Chunk* chunk = Mix_LoadWAV_RW(memory, 1);
+  if (chunk == nullptr) fail(ErrorNumber::badFile, unusable(path));
+  return std::make_shared<MixedBuffer>(chunk);
+}
 
 std::shared_ptr<DirectSound> createDirectSound(const std::string& /*device*/) {
   openAudioDevice();
-  return std::make_shared<MixedSound>();
+  return std::make_shared<DirectSound>();
 }
 
 }  // namespace glonks

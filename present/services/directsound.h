@@ -40,17 +40,12 @@ using Sample = std::shared_ptr<DirectSoundBuffer>;
 
 class DirectSound {
  public:
-  DirectSound() = default;
-  virtual ~DirectSound() = default;
-  DirectSound(const DirectSound&) = delete;
-  DirectSound& operator=(const DirectSound&) = delete;
-
   // `level` 1: normal.
-  virtual void SetCooperativeLevel(i32 hWnd, i32 level) = 0;
+  void SetCooperativeLevel(i32 hWnd, i32 level);
   // A sample from a wave file; it is brought to the device's own format. Raises fileNotFound or
   // badFile, naming the file.
-  virtual Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
-                                           const SampleFormat& format) = 0;
+  Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
+                                   const SampleFormat& format);
 };
 
 // The default sound device, opened again. Without one, all sounds are silent (see takeSoundNotice).

@@ -23,27 +23,24 @@ struct ListedBuffer : DirectSoundBuffer {
   std::string name;
 };
 
-struct ListedSound : DirectSound {
-  void SetCooperativeLevel(i32, i32) override {}
-  Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc&,
-                                   const SampleFormat&) override {
-    fake::samplesLoaded.push_back(nativePath(path).stem().string());
-    return std::make_shared<ListedBuffer>(fake::samplesLoaded.back());
-  }
-};
-
 }  // namespace
 
+void DirectSound::SetCooperativeLevel(i32, i32) {}
+Sample DirectSound::CreateSoundBufferFromFile(const std::string& path, const SampleDesc&,
+                                              const SampleFormat&) {
+  fake::samplesLoaded.push_back(nativePath(path).stem().string());
+  return std::make_shared<ListedBuffer>(fake::samplesLoaded.back());
+}
 std::shared_ptr<DirectSound> createDirectSound(const std::string&) {
-  return std::make_shared<ListedSound>();
+  return std::make_shared<DirectSound>();
 }
 void noteDeviceRemoved() {}
 std::string takeSoundNotice() { return std::exchange(fake::soundNotice, {}); }
 
 Flag BASS_Init(i32, i32, i32, i32, i32) { return flagOf(fake::musicReady = true); }
 u32 BASS_StreamCreateFile(i32, const std::string& path, i32, i32, i32) {
-  fake::songsOpened.push_back(path);
   fake::songEnded = false;
+  fake::songsOpened.push_back(path);
   return fake::brokenSongs.count(path) != 0 ? 0 : static_cast<u32>(fake::songsOpened.size());
 }
 void BASS_ChannelSetAttributes(u32 handle, i32, i32 volume, i32) {

@@ -27,9 +27,7 @@ extern "C" SDL_Surface* SDL_GetWindowSurface(SDL_Window* window) {
 namespace glonks {
 namespace {
 
-constexpr u32 white = 0xFFFFFF;
-constexpr u32 red = 0xFF0000;
-constexpr u32 blue = 0x0000FF;
+constexpr u32 white = 0xFFFFFF, red = 0xFF0000, blue = 0x0000FF;
 constexpr ColorKey redKey{red, red};
 
 // A picture of which keyed blits leave out the white pixels.
@@ -38,7 +36,7 @@ Surface picture(i32 width, i32 height, auto color) {
   for (i32 i = 0; i < width * height; ++i) pixels.push_back(color(i % width, i / width));
   auto surface = std::make_shared<DirectDrawSurface7>(width, height);
   surface->setPixels(std::move(pixels));
-  surface->SetColorKey(sourceBlitKey, {0xFFFFFF, 0xFFFFFF});
+  surface->SetColorKey(sourceBlitKey, {white, white});
   surface->SetFont({"Times New Roman", 12});
   surface->SetForeColor(0xFFFFFF);
   return surface;
@@ -209,6 +207,7 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
       {"pressed again", SDL_KEYDOWN, SDL_SCANCODE_DOWN, 203 + 208, false},
       {"minimised", SDL_WINDOWEVENT, SDL_WINDOWEVENT_MINIMIZED, 0, true},
       {"restored", SDL_WINDOWEVENT, SDL_WINDOWEVENT_RESTORED, 0, false},
+      {"focus back again", SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
       {"minimised again", SDL_WINDOWEVENT, SDL_WINDOWEVENT_MINIMIZED, 0, true},
       {"close box", SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE, -1, true}};
   for (const auto& [name, type, what, expected, lost] : events) {
@@ -233,11 +232,12 @@ TEST_F(Window, KeepsTheSizeThatThePlayerGaveIt) {
   switchFullScreen();
   setWindowState(handle, WindowState::maximised);
   EXPECT_TRUE(timesMaximised == 1 && SDL_GetWindowSurface(window())->w == 1024);
-  for (const char* game : {"this", "next"}) {
+  for (const int width : {640, 700}) {
     switchFullScreen();
-    EXPECT_EQ(SDL_GetWindowSurface(window())->w, 640) << game << " game";
+    EXPECT_EQ(SDL_GetWindowSurface(window())->w, width);
+    SDL_SetWindowSize(window(), 700, 480);
     closeWindow(handle);
-    handle = open();
+    handle = open();  // the next game
   }
 }
 
@@ -324,6 +324,8 @@ TEST_F(Sound, LoadsWithAndWithoutADevice) {
 
 TEST_F(Sound, PlaysManySamplesAndOneSong) {
   open("dummy");
+  EXPECT_EQ(Mix_QuerySpec(nullptr, nullptr, nullptr), 1)
+      << "the device was opened again, not twice";
   const Sample clapping = load("\\sounds\\_clapping01.wav");
   const Sample other = load("\\sounds\\_clapping02.wav");
   for (int i = 0; i < 45; ++i) clapping->Play(0);
