@@ -7,7 +7,7 @@
 // Inside the services: calls that fail.
 namespace glonks {
 
-// Raises "trouble (reason)."; the reason is what SDL has last said, if none is given.
+// Raises "trouble (reason)."; without a reason, SDL's last error is it.
 [[noreturn]] void fail(ErrorNumber number, const std::string& trouble);
 [[noreturn]] void fail(ErrorNumber number, const std::string& trouble, const std::string& reason);
 

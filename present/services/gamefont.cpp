@@ -30,7 +30,7 @@ std::map<std::pair<FontKey, std::string>, TextPicture> pictures;
 
 std::string unusable(const std::string& name) { return "The font \"" + name + "\" can't be used"; }
 
-// The file of the font that the system gives for a name.
+// The file of the font that the system has for a name.
 std::string fontFile(const std::string& name) {
   if (FcInit() != FcTrue)
     fail(ErrorNumber::serviceFailed, unusable(name), "the list of fonts can't be read");

@@ -4,7 +4,7 @@
 
 #include "base/types.h"
 
-// Inside the services: which keys are down, as the window's events have told.
+// Inside the services: which keys are down, according to the window's events.
 namespace glonks {
 
 // One byte per DirectInput scan code, not 0 while the key is down. Scan codes name physical keys,

@@ -68,7 +68,7 @@ class DirectDrawSurface7 {
   // Fills a rectangle with one colour.
   i32 BltColorFill(const Rect& to, i32 color);
 
-  // The font of DrawText. Raises serviceFailed if the system has none to give.
+  // The font of DrawText. Raises serviceFailed if the system has none at all.
   void SetFont(const GameFont& font);
   void SetForeColor(i32 color);
   // True: no box behind the text. False: a black one.
