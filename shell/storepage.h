@@ -14,7 +14,8 @@ struct StoreItem {
   Flag onSale;
 };
 
-// By slot of itemStock. Names and prices are part of the page's picture too.
+// By slot of itemStock. This is the one place of the prices: the page's picture is drawn with them,
+// and the manual is checked against them.
 inline constexpr std::array<StoreItem, storeRows> storeItems = {{
     {2, "a Slammer", True},
     {4, "a Bomb", True},

@@ -27,8 +27,10 @@ struct Control {
   Flag enabled = True;
 };
 
+// Its font becomes smaller where a word is too wide for it.
 struct Label : Control {
   std::string caption;
+  i32 overhang = 0;  // twips beyond its right edge that the caption may use as well
 };
 
 // Several lines to read, with a scroll bar. A paragraph ends at a line end ("\n" or "\r\n").
@@ -51,7 +53,7 @@ struct Choices : Control {
   std::vector<std::string> items;
   std::vector<i32> itemData;  // as many as items
   i16 listIndex = -1;         // -1: none selected
-  Flag sorted = False;        // items in alphabetical order, whatever the order of adding
+  Flag sorted = False;        // items in alphabetical order, see collation.h
   Handler click = nullptr;
 };
 struct ComboBox : Choices {};
@@ -86,8 +88,9 @@ struct Menu {
   std::vector<MenuEntry> entries;
 };
 
-// A window: its inside in twips, its controls from back to front, and what runs when the player
-// closes it, in the place of closing. It opens in the centre of the screen and can't be maximised.
+// A window: its inside in twips, its controls from back to front, and what runs instead when the
+// player closes it. Without an `unload`, Escape closes it too. It opens in the centre of the screen
+// and can't be maximised.
 struct Form {
   std::string caption;
   i32 width = 0;
@@ -97,9 +100,9 @@ struct Form {
   std::vector<ControlRef> controls;
 };
 
-// Gives a control its place: left, top, width, height and, for what the Tab key stops at, the place
-// in its order.
-inline void place(Control& control, const Control& at) { control = at; }
+// Puts a control at left, top, width, height and, for what the Tab key stops at, its place in that
+// order. It is visible and enabled afterwards.
+inline void setBounds(Control& control, const Control& at) { control = at; }
 
 // Gives a form its caption, its inside and a picture that fills it.
 void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,

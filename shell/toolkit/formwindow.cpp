@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
@@ -44,13 +45,13 @@ void FormWindow::makeMenus() {
   }
 }
 
-void FormWindow::level() {
+void FormWindow::refresh() {
   const QString title = form_.caption.empty() ? " " : shownText(form_.caption);  // not Qt's own
   if (windowTitle() != title) setWindowTitle(title);
   const QSize size(pixels(form_.width), pixels(form_.height));
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
   const QWidget* inFocus = focusWidget();
-  for (const auto& mirror : mirrors_) mirror->level();
+  for (const auto& mirror : mirrors_) mirror->refresh();
   if (inFocus == nullptr || !inFocus->isVisible()) focusFirst();
 }
 
@@ -63,8 +64,8 @@ void FormWindow::focusFirst() {
 
 void FormWindow::present() {
   setEnabled(true);
-  level();
-  if (!isVisible()) place();
+  refresh();
+  if (!isVisible()) centreOrRestore();
   if (isMinimized()) showNormal();
   show();
   const QPointer<QWidget> before = std::exchange(inFocus_, nullptr);
@@ -77,21 +78,21 @@ void FormWindow::present() {
   activateWindow();
 }
 
-void FormWindow::place() {
+void FormWindow::centreOrRestore() {
   if (!open_) {
     const QRect room = screen()->availableGeometry();
     const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     adjustSize();
     const QSize size = this->size() + QSize(0, titleBar);
-    place_ = room.center() - QRect(QPoint(), size).center();
+    position_ = room.center() - QRect(QPoint(), size).center();
     open_ = true;
   }
-  move(place_);
+  move(position_);
 }
 
 void FormWindow::putAway() {
   if (!isVisible()) return;
-  place_ = pos();
+  position_ = pos();
   inFocus_ = focusWidget();
   hide();
   setEnabled(false);
@@ -103,6 +104,14 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     open_ = false;
   } else {
     enterFromQt([this] { run(form_.unload); });
+  }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && form_.unload == nullptr) {
+    close();
+  } else {
+    QMainWindow::keyPressEvent(event);
   }
 }
 

@@ -14,8 +14,8 @@ class Mirror {
  public:
   virtual ~Mirror() = default;
 
-  // Brings the widget level with the data, without running handlers. Costs little if it is already.
-  virtual void level() = 0;
+  // Shows what has changed in the data, without running handlers. Costs little if nothing has.
+  virtual void refresh() = 0;
 };
 using Mirrors = std::vector<std::unique_ptr<Mirror>>;
 

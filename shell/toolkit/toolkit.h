@@ -10,14 +10,10 @@
 // letFormMessagesThrough; what a handler raises comes out of there.
 namespace glonks {
 
-// Makes the toolkit ready; first call of the program. The program's folder is that of the program
-// file.
-void startToolkit(int argc, char** argv);
+// Makes the toolkit ready; first call of the program. Without a display it ends the program, with a
+// sentence on the error output and exit status 1. The program's folder is that of the program file.
+void startToolkit();
 std::filesystem::path folderOfProgram();
-
-// Holds the folder for this run of the program alone. What hinders it, if anything:
-enum class FolderHold { held, otherRun, notWritable };
-FolderHold holdFolder(const std::filesystem::path& folder);
 
 // Shows a form, active and in front. For one that isn't open `load` runs first, and it comes up in
 // the centre of the screen; after hideForm it comes back to its old place as it was. The form and
@@ -50,7 +46,7 @@ void messageBox(const std::string& text);
 Flag yesNoBox(const std::string& question);
 
 // A line to type, at first empty, of at most `longest` characters, with the buttons OK and Cancel.
-// Gives what was typed, in Windows-1252 with "?" for what that set lacks; empty for Cancel.
+// Returns what was typed, in Windows-1252 with "?" for what that set lacks; empty for Cancel.
 std::string inputBox(const std::string& prompt, i32 longest);
 
 }  // namespace glonks

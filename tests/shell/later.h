@@ -4,9 +4,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -35,7 +35,7 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
   return nullptr;
 }
 
-inline std::string lastMessage;  // the text of the last message box that was answered
+inline std::string lastMessage;  // the text of the last dialog that was answered
 
 // Answers the next dialog by a key, after typing a text where there is a line for one. Gives up if
 // none comes for as many event loops as `patience` says.
@@ -46,10 +46,9 @@ inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20
       if (patience > 0) answerNext(key, typed, patience - 1);
       return;
     }
-    if (const auto* message = qobject_cast<QMessageBox*>(dialog)) {
-      EXPECT_EQ(message->textFormat(), Qt::PlainText);
-      lastMessage = message->text().toStdString();
-    }
+    const auto* text = dialog->findChild<QLabel*>();
+    EXPECT_EQ(text->textFormat(), Qt::PlainText);
+    lastMessage = text->text().toStdString();
     auto* line = dialog->findChild<QLineEdit*>();
     if (line != nullptr) line->insert(typed);
     QTest::keyClick(line != nullptr ? line : dialog, key);
