@@ -11,7 +11,7 @@ namespace glonks {
 namespace {
 
 // Logical pixels.
-constexpr int widestText = 340;
+constexpr int widestText = 380;
 constexpr int narrowestText = 190;
 constexpr int margin = 15;
 constexpr int spacing = 13;

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "manual/manualwindow.h"
+#include "shell/storepage.h"
 
 namespace glonks {
 namespace {
@@ -47,6 +48,23 @@ TEST(Manual, ChaptersAreWholeAndReachedByKeysAndLinks) {
   }
   EXPECT_EQ(reached.size(), links.size());
   EXPECT_GE(links.size(), 6U);
+  window.show();
+  QTest::keyClick(&text, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST(Manual, TellsThePricesOfTheStore) {
+  ManualWindow window;
+  emit window.text().anchorClicked(QUrl("store"));
+  const QString text = window.text().toPlainText();
+  for (std::size_t slot = 0; slot < storeItems.size(); ++slot) {
+    const StoreItem& item = storeItems[slot];
+    const QString words = item.words;
+    const QString row = QString("\n%1\n%2\n%3\n");  // item, price, key
+    const auto name = words.mid(words.indexOf(' ') + 1);
+    EXPECT_EQ(text.contains(row.arg(name).arg(item.price).arg(slot + 1)), item.onSale == True)
+        << item.words;
+  }
 }
 
 }  // namespace

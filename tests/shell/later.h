@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -42,13 +43,16 @@ inline std::string lastMessage;  // the text of the last dialog that was answere
 inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20) {
   later([=] {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) {
-      if (patience > 0) answerNext(key, typed, patience - 1);
-      return;
-    }
-    const auto* text = dialog->findChild<QLabel*>();
-    EXPECT_EQ(text->textFormat(), Qt::PlainText);
-    lastMessage = text->text().toStdString();
+    if (dialog == nullptr) return patience > 0 ? answerNext(key, typed, patience - 1) : void();
+    const auto* label = dialog->findChild<QLabel*>();
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    // The room that the text needs lies in the label, the label in the dialog, that on the screen.
+    const QRect room(0, 0, label->width(), QWIDGETSIZE_MAX);
+    const QRect needed = label->fontMetrics().boundingRect(room, Qt::TextWordWrap, label->text());
+    EXPECT_TRUE(label->wordWrap() && label->rect().contains(needed)) << label->width();
+    EXPECT_TRUE(dialog->rect().contains(label->geometry()) &&
+                dialog->screen()->geometry().contains(dialog->geometry()));
+    lastMessage = label->text().remove(QChar(0x200b)).toStdString();
     auto* line = dialog->findChild<QLineEdit*>();
     if (line != nullptr) line->insert(typed);
     QTest::keyClick(line != nullptr ? line : dialog, key);
