@@ -4,9 +4,9 @@
 
 namespace glonks {
 
-// Starts Qt and applies the style. No argument of the command line gets to Qt. Without a display it
-// ends the program with a sentence on the error output and exit status 1. The application is never
-// deleted: at the end of the program Qt's own static objects could be gone before it.
+// Starts Qt and applies the style. Arguments of the command line never reach Qt. Without a display,
+// ends the program with a sentence on stderr and exit status 1. The application is never deleted:
+// when the program ends, Qt's own static objects could be gone before it.
 QApplication& makeApplication(const char* name);
 
 }  // namespace glonks

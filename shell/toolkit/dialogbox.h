@@ -6,14 +6,13 @@
 
 namespace glonks {
 
-// A text above buttons, of which the first is pressed by Enter and the last by Escape. The text is
-// shown whole, however long it is: it is wrapped at blanks, and inside a word that is wider than
-// the box.
+// A text above buttons, of which Enter presses the first and Escape the last. The whole text is
+// shown: it is wrapped between words, and inside a word that is too wide for the box.
 class DialogBox : public QDialog {
  public:
   DialogBox(const QString& text, QDialogButtonBox::StandardButtons buttons, QWidget* parent);
 
-  // Adds a line to type, between text and buttons, of at most `longest` characters.
+  // Adds an input line, between text and buttons, of at most `longest` characters.
   QLineEdit& addLine(int longest);
 };
 

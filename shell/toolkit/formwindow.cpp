@@ -15,7 +15,7 @@
 namespace glonks {
 namespace {
 
-// A menu's caption, its first letter the one to press with Alt.
+// A menu's caption, with its first letter as the key to press with Alt.
 QString withAltKey(const std::string& caption) { return "&" + shownText(caption); }
 
 }  // namespace
@@ -37,7 +37,7 @@ void FormWindow::makeMenus() {
   for (const Menu& menu : form_.menus) {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
     for (const MenuEntry& entry : menu.entries) {
-      // Not before the menu has gone, which gives the focus back to where it was.
+      // Queued until the menu has gone, which returns the focus to where it was.
       connect(
           shown->addAction(withAltKey(entry.caption)), &QAction::triggered, this,
           [&entry] { enterFromQt([&entry] { run(entry.click); }); }, Qt::QueuedConnection);
@@ -46,7 +46,8 @@ void FormWindow::makeMenus() {
 }
 
 void FormWindow::refresh() {
-  const QString title = form_.caption.empty() ? " " : shownText(form_.caption);  // not Qt's own
+  const QString title =
+      form_.caption.empty() ? " " : shownText(form_.caption);  // or Qt shows its own
   if (windowTitle() != title) setWindowTitle(title);
   const QSize size(pixels(form_.width), pixels(form_.height));
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
@@ -55,7 +56,7 @@ void FormWindow::refresh() {
   if (inFocus == nullptr || !inFocus->isVisible()) focusFirst();
 }
 
-// The widget that Qt would choose is another one: it takes the stops for a ring.
+// Qt would choose a different widget, because it treats the stops as a ring.
 void FormWindow::focusFirst() {
   for (const TabStop& stop : stops_) {
     if (stop.widget->isVisible() && stop.widget->isEnabled()) return stop.widget->setFocus();

@@ -18,8 +18,8 @@ namespace glonks {
 namespace {
 
 constexpr i32 labelIndent = 60;   // twips; brings a label's text in line with that of lists
-constexpr i32 narrowIndent = 30;  // of a label that needs what room there is
-constexpr int smallestFont = 7;   // logical pixels; smaller can't be read
+constexpr i32 narrowIndent = 30;  // of a label that needs all the room there is
+constexpr int smallestFont = 7;   // logical pixels; smaller ones can't be read
 constexpr int afterAllOthers = std::numeric_limits<int>::max();  // place of a tab stop
 
 // `View` is the widget's class. `shown` holds the data as the widget shows it.
@@ -45,7 +45,7 @@ class MirrorOf : public Mirror {
   virtual bool isOnShow() const { return data_.visible != False; }
   virtual i32 overhang() const { return 0; }
 
-  // Whether the field isn't shown as it is now; from then on it counts as shown.
+  // Whether the widget doesn't show the field as it is now. Afterwards it counts as shown.
   template <typename Owner, typename Field>
   bool differs(Field Owner::*field) {
     if (shown_.*field == data_.*field) return false;
@@ -160,7 +160,7 @@ QStringList shownItems(const Choices& list) {
   return texts;
 }
 
-// The player's choice. The row may be gone from the data by now, and not yet from the widget.
+// The player's choice. The row may be gone from the data already, but not yet from the widget.
 void choose(Choices& list, int row) {
   enterFromQt([&list, row] {
     if (row < static_cast<int>(list.items.size())) setListIndex(list, row);

@@ -30,8 +30,8 @@ struct TabStop {
 Mirrors makeMirrors(const std::vector<ControlRef>& controls, QWidget& parent,
                     std::vector<TabStop>& stops);
 
-// Lets the Tab key go through the stops by place, and by order of creation where that is equal.
-// They are in that order afterwards.
+// Makes the Tab key visit the stops by place, and in order of creation where places are equal.
+// Sorts them that way.
 void orderTabStops(std::vector<TabStop>& stops);
 
 }  // namespace glonks

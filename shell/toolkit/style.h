@@ -6,7 +6,7 @@
 
 #include "base/types.h"
 
-// Size and looks of everything that the toolkit shows.
+// Size and look of everything that the toolkit shows.
 namespace glonks {
 
 // The factor that suits the main screen, 1 to 4.
@@ -21,7 +21,7 @@ int scaleFactor();
 // A length in twips as screen pixels.
 int pixels(i32 twips);
 
-// A text of the program (Windows-1252) as Qt takes it.
+// A text of the program (Windows-1252) as Qt needs it.
 QString shownText(const std::string& text);
 
 }  // namespace glonks

@@ -62,7 +62,7 @@ FormWindow* dialogParent() {
   return formInFront();
 }
 
-// Shows a dialog until the player has answered it; true if by its first button.
+// Shows a dialog until the player has answered it. True if the answer was its first button.
 bool runDialog(DialogBox& box) {
   box.setWindowTitle(programName);
   if (box.parent() == nullptr) box.setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -37,7 +37,7 @@ struct Sheet {
   Label label{{150, 3960, 3000, 900}, ""};
   Form form{"", 6000, 6000, nullptr, {}, {&spot, &combo, &list, &label, &bar}};
 
-  Runs runs;  // what the handlers have told
+  Runs runs;  // what the handlers reported
   static void note(const std::string& what) { sheet->runs.push_back(what); }
   static void barChanged() { note("change " + std::to_string(sheet->bar.value)); }
   static void listClicked() { note("list " + textOf(sheet->list)); }
