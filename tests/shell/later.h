@@ -38,8 +38,8 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
 
 inline std::string lastMessage;  // the text of the last dialog that was answered
 
-// Answers the next dialog with a key, after typing a text where there is a line for one. Gives up if
-// none comes for as many event loops as `patience` says.
+// Answers the next dialog with a key, after typing a text where there is a line for one. Gives up
+// if none comes for as many event loops as `patience` says.
 inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20) {
   later([=] {
     QWidget* dialog = QApplication::activeModalWidget();
