@@ -8,6 +8,7 @@
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/ftip.h"
+#include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
 #include "storage/store.h"
@@ -56,9 +57,9 @@ void endFailedRun(const std::string& logged, const std::string& shown) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main() {
   try {
-    startToolkit(argc, argv);
+    startToolkit();
     setProgramFolder(folderOfProgram());
     if (!holdProgramFolder()) return 1;
     fTip_Form_Load();

@@ -115,7 +115,7 @@ int main(int argc, char** argv) {
   }
   if (argc > 2) playingSeconds = leadingNumber(argv[2]);
   try {
-    startToolkit(argc, argv);
+    startToolkit();
     setProgramFolder(std::filesystem::absolute(argv[1]));
     fTip_Form_Load();
     setText(tMode, "Freestyle");

@@ -1,13 +1,9 @@
-#include <QApplication>
-
 #include "manual/manualwindow.h"
-#include "shell/toolkit/style.h"
+#include "shell/toolkit/application.h"
 
 // The manual: a program of its own, so that it can be read beside the game.
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QApplication::setApplicationName("Glonks manual");
-  glonks::applyStyle(application);
+int main() {
+  glonks::makeApplication("The manual");
   glonks::ManualWindow window;
   window.show();
   return QApplication::exec();

@@ -68,7 +68,7 @@ QString chapterText(const Chapter& chapter) {
   return file.open(QIODevice::ReadOnly) ? enlarged(QString::fromUtf8(file.readAll())) : QString();
 }
 
-// The text of a chapter. A picture's name may end in "?" and the width to show it in, in pixels.
+// The text of a chapter. A picture's name may end in "?" and the width in pixels to show it at.
 class ChapterView : public QTextBrowser {
  protected:
   QVariant loadResource(int type, const QUrl& name) override {

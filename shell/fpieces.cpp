@@ -102,12 +102,12 @@ constexpr i32 specimenHeight = 855;
 void fPieces_Form_Load() {
   constexpr auto clicks = handlersOf<pClick_Click, specimenCount>();
   setInside(fPieces, "the specimen box", 5760, 4755, fPieces_background, ":/forms/specimens.png");
-  place(pieceDesc, {120, 3360, 5415, 1215, 0});
+  setBounds(pieceDesc, {120, 3360, 5415, 1215, 0});
   pieceDesc.text = "Click on a piece for its description.\r\n";
   fPieces.controls = {&fPieces_background, &pieceDesc};
   for (std::size_t i = 0; i < specimens.size(); ++i) {
     const auto& [left, top, kind] = specimens[i];
-    place(pClick[i], {left, top, specimenWidth, specimenHeight});
+    setBounds(pClick[i], {left, top, specimenWidth, specimenHeight});
     pClick[i].hint = kind.name;
     pClick[i].click = clicks[i];
     fPieces.controls.emplace_back(&pClick[i]);

@@ -4,7 +4,7 @@
 
 #include "shell/toolkit/controls.h"
 
-// Form fPieces: the specimen box, which tells about each kind of piece.
+// Form fPieces: the specimen box, which describes each kind of piece.
 namespace glonks {
 
 void fPieces_Form_Load();      // each time that the form is opened

@@ -6,7 +6,7 @@ namespace glonks {
 
 void fSplash_Form_Load() {
   setInside(fSplash, "about", 3765, 4500, fSplash_background, ":/forms/about.png");
-  place(fSplash_Image2, {600, 3720, 2535, 375});
+  setBounds(fSplash_Image2, {600, 3720, 2535, 375});
   fSplash_Image2.hint = "Open the makers' page";
   fSplash_Image2.click = fSplash_Image2_Click;
   fSplash.controls = {&fSplash_background, &fSplash_Image2};

@@ -23,7 +23,7 @@ const std::string greeting = "Welcome to Glonks!  Have a good game.";
 
 void layOut() {
   setInside(fTip, "", 4365, 2490, fTip_background, ":/forms/tip.png");
-  place(tip, {140, 640, 4095, 1695, 0});
+  setBounds(tip, {140, 640, 4095, 1695, 0});
   tip.fontHeight = tipFont;
   fTip.controls = {&fTip_background, &tip};
 }

@@ -11,13 +11,13 @@ inline Form fTip;
 inline Image fTip_background;
 inline TextBox tip;
 
-// A line of the file of tips, all equally likely, or a greeting if there is none to be read. Seeds
-// the random generator from the clock.
+// A line of the file of tips, all equally likely, or a greeting if none can be read. Seeds the
+// random generator from the clock.
 std::string pickTip();
 
 // Start of the program: makes the key tables before anything else touches the random generator,
 // picks a tip from "\init\1182", and loads and shows fMain. The form itself is shown afterwards, so
-// that it stands above.
+// that it comes up on top.
 void fTip_Form_Load();
 
 }  // namespace glonks

@@ -4,8 +4,8 @@
 
 #include "shell/toolkit/controls.h"
 
-// The controls of the main window under their names, as plain data. Menulayout gives them their
-// places and handlers.
+// The controls of the main window under their names, as plain data. Menulayout sets their
+// bounds and handlers.
 namespace glonks {
 
 inline Form fMain;

@@ -23,20 +23,22 @@ constexpr i32 formHeight = 5175;
 constexpr i32 widePage = 3635;  // of the pages from musicPage on
 constexpr i32 pictureTop = 120;
 constexpr i32 pictureHeight = 5070;
+constexpr i32 bankRight = 1260;   // of the wells in the pictures, for numbers that need more
+constexpr i32 stockRight = 3420;  // than their labels
 
 void layOutPage(Page index, Image& background, const char* picture,
                 const std::vector<ControlRef>& controls) {
   Frame& page = frame[static_cast<std::size_t>(index)];
   const i32 width = index < musicPage ? formWidth : widePage;
-  place(page, {0, 0, width, formHeight});
-  place(background, {0, pictureTop, width, pictureHeight});
+  setBounds(page, {0, 0, width, formHeight});
+  setBounds(background, {0, pictureTop, width, pictureHeight});
   background.picture = picture;
   page.controls = {&background};
   page.controls.insert(page.controls.end(), controls.begin(), controls.end());
 }
 
 void layOutHotSpot(Image& spot, const Control& at, const std::string& hint, Handler click) {
-  place(spot, at);
+  setBounds(spot, at);
   spot.hint = hint;
   spot.click = click;
 }
@@ -49,9 +51,9 @@ void layOutBar(HScrollBar& bar, i16 min, i16 max, i16 largeChange) {
 }
 
 void layOutNewGame() {
-  place(tMode, {240, 600, 3135, 315, 4});
-  place(tModeDesc, {240, 1080, 3135, 855});
-  place(tLevels, {240, 2520, 3135, 1785, 5});
+  setBounds(tMode, {240, 600, 3135, 315, 4});
+  setBounds(tModeDesc, {240, 1080, 3135, 855});
+  setBounds(tLevels, {240, 2520, 3135, 1785, 5});
   tMode.click = tMode_Click;
   layOutHotSpot(main_BtnRun, {2280, 4560, 1095, 495}, "Play", main_BtnRun_Click);
   layOutPage(newGamePage, Image7, ":/forms/page0.png",
@@ -59,15 +61,15 @@ void layOutNewGame() {
 }
 
 void layOutHighScores() {
-  place(scoreModes, {240, 720, 3135, 315, 0});
-  place(scores_freestyle, {240, 1440, 3135, 1980, 9});
+  setBounds(scoreModes, {240, 720, 3135, 315, 0});
+  setBounds(scores_freestyle, {240, 1440, 3135, 1980, 9});
   scoreModes.click = scoreModes_Click;
   layOutPage(scoresPage, Image8, ":/forms/page1.png", {&scoreModes, &scores_freestyle});
 }
 
 void layOutCredits() {
   constexpr i32 creditsFont = 195;  // 9.75 points
-  place(Text1, {240, 720, 3135, 3735, 22});
+  setBounds(Text1, {240, 720, 3135, 3735, 22});
   Text1.fontHeight = creditsFont;
   Text1.text = creditsText;
   layOutPage(creditsPage, Image3, ":/forms/page2.png", {&Text1});
@@ -78,24 +80,26 @@ void layOutStore() {
   constexpr i32 stockTops[storeRows] = {1480, 2090, 2650, 3270, 3880, 4480};
   constexpr auto clicks = handlersOf<purchase_Click, storeRows>();
   std::vector<ControlRef> controls = {&Image5, &tBank};
-  place(tBank, {840, 210, 375, 285});
+  setBounds(tBank, {840, 210, 375, 285});
+  tBank.overhang = bankRight - tBank.left - tBank.width;
   for (i16 row = 0; row < storeRows; ++row) {
     const auto i = static_cast<std::size_t>(row);
-    place(tpurchase[i], {3000, stockTops[i], row == 0 ? 265 : 270, 285});
+    setBounds(tpurchase[i], {3000, stockTops[i], row == 0 ? 265 : 270, 285});
+    tpurchase[i].overhang = stockRight - tpurchase[i].left - tpurchase[i].width;
     layOutHotSpot(purchase[i], {2400, buttonTops[i], 375, row == 2 ? 255 : 375},
                   std::string("Buy ") + storeItems[i].words, clicks[i]);
     controls.insert(controls.end(), {&purchase[i], &tpurchase[i]});
   }
   layOutPage(storePage, Image4, ":/forms/store_table.png", controls);
-  place(Image4, {120, 720, 3360, 4350});
-  place(Image5, {20, 120, 1320, 570});
+  setBounds(Image4, {120, 720, 3360, 4350});
+  setBounds(Image5, {20, 120, 1320, 570});
   Image5.picture = ":/forms/store_bank.png";
 }
 
 void layOutBackgrounds() {
-  place(theme, {240, 600, 3135, 315, 1});
-  place(themePic, {600, 2070, 2395, 1800});
-  place(HScroll1, {240, 4380, 3135, 255, 2});
+  setBounds(theme, {240, 600, 3135, 315, 1});
+  setBounds(themePic, {600, 2070, 2395, 1800});
+  setBounds(HScroll1, {240, 4380, 3135, 255, 2});
   theme.sorted = True;
   theme.click = theme_Click;
   layOutBar(HScroll1, 1, platesInTheme, 1);
@@ -104,8 +108,8 @@ void layOutBackgrounds() {
 }
 
 void layOutMusic() {
-  place(songs, {360, 600, 2895, 2565, 14});
-  place(HScroll2, {360, 3720, 2895, 255, 3});
+  setBounds(songs, {360, 600, 2895, 2565, 14});
+  setBounds(HScroll2, {360, 3720, 2895, 255, 3});
   songs.sorted = True;
   layOutBar(HScroll2, 0, loudest, 10);
   HScroll2.change = HScroll2_Change;
@@ -114,7 +118,7 @@ void layOutMusic() {
 }
 
 void layOutBands() {
-  place(allBands, {360, 900, 2895, 2565, 24});
+  setBounds(allBands, {360, 900, 2895, 2565, 24});
   allBands.sorted = True;
   layOutHotSpot(launch, {2160, 4440, 1095, 615}, "Open the band's page", launch_Click);
   layOutPage(bandsPage, Image2, ":/forms/page6.png", {&allBands, &launch});

@@ -2,8 +2,8 @@
 
 namespace glonks {
 
-// Gives fMain its inside: pages, and the places, pictures, settings and handlers of all controls.
-// All pages lie at the same place; showPage tells which can be seen.
+// Builds the inside of fMain: its pages, and the bounds, pictures, settings and handlers of all
+// controls. All pages lie at the same place; showPage decides which can be seen.
 void layOutMenu();
 
 }  // namespace glonks

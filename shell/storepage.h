@@ -14,7 +14,8 @@ struct StoreItem {
   Flag onSale;
 };
 
-// By slot of itemStock. Names and prices are part of the page's picture too.
+// By slot of itemStock. This is the one place for prices: the page's picture is drawn from it, and
+// the manual is checked against it.
 inline constexpr std::array<StoreItem, storeRows> storeItems = {{
     {2, "a Slammer", True},
     {4, "a Bomb", True},

@@ -3,6 +3,8 @@
 Controls are laid over these pictures; what they are laid over stands here at the same places.
 """
 import math
+import re
+from pathlib import Path
 from . import emblems, pieces
 from .glyphs import lettering, text_width
 from .parts import (BLUE, DIM, GLONKS, INK, PALE, RIM, WINDOW, button, crowd, ground, head, plate, row_of, second_head,
@@ -76,30 +78,38 @@ def credits_page():
 def store_bank():
     canvas = sheet(88, 38)
     ctx = canvas.ctx
-    sloped(ctx, box(1, 1, 85, 29, 4), rgb("22345c"), rgb("121a31"), .7, RIM)
-    lettering(ctx, "Bank", 7, 9.6, 1.7, 2.1, [AMBER], .5, 1.3)
-    well(ctx, 55, 6, 25, 19, 1.5)
+    sloped(ctx, box(1, 1, 86.5, 29, 4), rgb("22345c"), rgb("121a31"), .7, RIM)
+    lettering(ctx, "Bank", 6, 9.6, 1.7, 2.1, [AMBER], .5, 1.3)
+    well(ctx, 54, 6, 29, 19, 1.5)
     return canvas.indexed()
 
 
-STORE = ((pieces.slammer, "Slammer", "2"), (pieces.bomb, "Bomb", "4"), (pieces.detonator, "Detonator", "7"),
-         (pieces.bowling_ball, "Bowling Ball", "10"), (emblems.bonus_song, "Bonus Song", "40"),
-         (emblems.midnight, "Midnight Bowling", "40"))
+STORE = ((pieces.slammer, "Slammer"), (pieces.bomb, "Bomb"), (pieces.detonator, "Detonator"),
+         (pieces.bowling_ball, "Bowling Ball"), (emblems.bonus_song, "Bonus Song"),
+         (emblems.midnight, "Midnight Bowling"))
 BUY_TOPS, TOTAL_TOPS = (48, 88, 128, 168, 208, 248), (50, 91, 128, 170, 210, 250)
+
+
+def prices():
+    """Those of the program itself, by row."""
+    header = Path(__file__).resolve().parents[2] / "shell/storepage.h"
+    found = re.findall(r'^ *\{(\d+), "', header.read_text(encoding="utf-8"), re.M)
+    assert len(found) == len(STORE), header
+    return found
 
 
 def store_table():
     canvas = sheet(224, 290)
     ctx = canvas.ctx
-    sloped(ctx, box(1, 8, 218.5, 276, 5), rgb("1d2d52"), rgb("0c1122"), .7, RIM)
-    fill(ctx, box(2, 9, 216.5, 28, 4), rgb("0b101d"), .55)
-    for text, x, middle in (("Item", 38, False), ("Cost", 131, True), ("Buy", 164.5, True), ("Total", 201, True)):
+    sloped(ctx, box(1, 8, 222, 276, 5), rgb("1d2d52"), rgb("0c1122"), .7, RIM)
+    fill(ctx, box(2, 9, 220.5, 28, 4), rgb("0b101d"), .55)
+    for text, x, middle in (("Item", 38, False), ("Cost", 131, True), ("Buy", 164.5, True), ("Total", 205, True)):
         words(ctx, text, x, 27, 11, AMBER, True, middle)
-    for i, ((draw, name, cost), top, total) in enumerate(zip(STORE, BUY_TOPS, TOTAL_TOPS)):
+    for i, ((draw, name), cost, top, total) in enumerate(zip(STORE, prices(), BUY_TOPS, TOTAL_TOPS)):
         height = 17 if i == 2 else 25
         middle = top + height / 2
         if i:
-            stroke(ctx, line((9, top - 7.5), (211, top - 7.5)), rgb("3a5183"), .5, .5)
+            stroke(ctx, line((9, top - 7.5), (215, top - 7.5)), rgb("3a5183"), .5, .5)
         pieces.place(ctx, draw, 7, middle - 14, 28)
         lines = name.split(" ") if len(name) > 12 else [name]
         for k, part in enumerate(lines):
@@ -107,7 +117,7 @@ def store_table():
         words(ctx, cost, 131, middle + 3.8, 11, rgb("ffd46a"), True, True)
         plate(ctx, 152, top, 25, height, 4)
         words(ctx, "Buy", 164.5, middle + 3.4, 10, INK, True, True)
-        well(ctx, 192, total, 18, 19, 1.5)
+        well(ctx, 190.5, total, 29, 19, 1.5)
     return canvas.indexed()
 
 

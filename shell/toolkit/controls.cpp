@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/errors.h"
+#include "shell/toolkit/collation.h"
 
 namespace glonks {
 
@@ -11,7 +12,7 @@ void setInside(Form& form, const std::string& caption, i32 width, i32 height, Im
   form.caption = caption;
   form.width = width;
   form.height = height;
-  place(background, {0, 0, width, height});
+  setBounds(background, {0, 0, width, height});
   background.picture = picture;
 }
 
@@ -22,10 +23,12 @@ void clearItems(Choices& list) {
 }
 
 void addItem(Choices& list, const std::string& text, i32 data) {
-  auto place = list.items.end();
-  if (list.sorted != False) place = std::upper_bound(list.items.begin(), list.items.end(), text);
-  const auto index = place - list.items.begin();
-  list.items.insert(place, text);
+  auto& items = list.items;
+  const auto next = list.sorted == False
+                        ? items.end()
+                        : std::upper_bound(items.begin(), items.end(), text, sortsBefore);
+  const auto index = next - items.begin();
+  items.insert(next, text);
   list.itemData.insert(list.itemData.begin() + index, data);
   if (list.listIndex >= index) ++list.listIndex;
 }

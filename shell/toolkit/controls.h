@@ -27,18 +27,21 @@ struct Control {
   Flag enabled = True;
 };
 
+// Its font becomes smaller where a word is too wide for it.
 struct Label : Control {
   std::string caption;
+  i32 overhang = 0;  // twips beyond its right edge that the caption may use as well
 };
 
-// Several lines to read, with a scroll bar. A paragraph ends at a line end ("\n" or "\r\n").
+// Several lines of text to read, with a scroll bar. A paragraph ends at a line end ("\n" or
+// "\r\n").
 struct TextBox : Control {
   std::string text;
-  i32 fontHeight = 0;  // twips; 0: as everywhere
+  i32 fontHeight = 0;  // twips; 0: the usual height
 };
 
-// A picture stretched over the control (a path of the game, or of the program's own pictures); with
-// no picture a hot spot, which shows nothing and only takes clicks.
+// A picture stretched over the control (a path of the game, or of the program's own pictures).
+// Without a picture it is a hot spot, which shows nothing and only takes clicks.
 struct Image : Control {
   std::string picture;
   std::string hint;  // what a hot spot does, for those who can't see the picture below it
@@ -51,7 +54,7 @@ struct Choices : Control {
   std::vector<std::string> items;
   std::vector<i32> itemData;  // as many as items
   i16 listIndex = -1;         // -1: none selected
-  Flag sorted = False;        // items in alphabetical order, whatever the order of adding
+  Flag sorted = False;        // items in alphabetical order, see collation.h
   Handler click = nullptr;
 };
 struct ComboBox : Choices {};
@@ -71,8 +74,8 @@ struct HScrollBar : Control {
 struct Frame;
 using ControlRef = std::variant<Label*, TextBox*, Image*, ComboBox*, ListBox*, HScrollBar*, Frame*>;
 
-// A page: its controls, from back to front. A page that another one in front covers can't be
-// reached by keys either.
+// A page: its controls, from back to front. The keys can't reach a page that is covered by another
+// one in front of it.
 struct Frame : Control {
   std::vector<ControlRef> controls;
 };
@@ -87,7 +90,8 @@ struct Menu {
 };
 
 // A window: its inside in twips, its controls from back to front, and what runs when the player
-// closes it, in the place of closing. It opens in the centre of the screen and can't be maximised.
+// closes it, instead of closing it. Without an `unload`, Escape closes it too. It opens in the
+// centre of the screen and can't be maximised.
 struct Form {
   std::string caption;
   i32 width = 0;
@@ -97,11 +101,11 @@ struct Form {
   std::vector<ControlRef> controls;
 };
 
-// Gives a control its place: left, top, width, height and, for what the Tab key stops at, the place
-// in its order.
-inline void place(Control& control, const Control& at) { control = at; }
+// Puts a control at left, top, width, height and, for what the Tab key stops at, its place in that
+// order. It is visible and enabled afterwards.
+inline void setBounds(Control& control, const Control& at) { control = at; }
 
-// Gives a form its caption, its inside and a picture that fills it.
+// Sets a form's caption, the size of its inside and a picture that fills it.
 void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,
                const std::string& picture);
 

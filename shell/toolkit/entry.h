@@ -26,8 +26,8 @@ class LoopInUse {
   LoopInUse& operator=(const LoopInUse&) = delete;
 };
 
-// Makes the outermost loop return as soon as no handler runs any more. takeEndRequest tells whether
-// that was asked for, and forgets it.
+// Makes the outermost loop return as soon as no handler runs any more. takeEndRequest returns
+// whether that was requested, and forgets the request.
 void requestEnd();
 bool takeEndRequest();
 

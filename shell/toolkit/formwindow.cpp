@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
@@ -14,7 +15,7 @@
 namespace glonks {
 namespace {
 
-// A menu's caption, its first letter the one to press with Alt.
+// A menu's caption, with its first letter as the key to press with Alt.
 QString withAltKey(const std::string& caption) { return "&" + shownText(caption); }
 
 }  // namespace
@@ -36,7 +37,7 @@ void FormWindow::makeMenus() {
   for (const Menu& menu : form_.menus) {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
     for (const MenuEntry& entry : menu.entries) {
-      // Not before the menu has gone, which gives the focus back to where it was.
+      // Queued until the menu has gone, which returns the focus to where it was.
       connect(
           shown->addAction(withAltKey(entry.caption)), &QAction::triggered, this,
           [&entry] { enterFromQt([&entry] { run(entry.click); }); }, Qt::QueuedConnection);
@@ -44,17 +45,18 @@ void FormWindow::makeMenus() {
   }
 }
 
-void FormWindow::level() {
-  const QString title = form_.caption.empty() ? " " : shownText(form_.caption);  // not Qt's own
+void FormWindow::refresh() {
+  const QString title =
+      form_.caption.empty() ? " " : shownText(form_.caption);  // or Qt shows its own
   if (windowTitle() != title) setWindowTitle(title);
   const QSize size(pixels(form_.width), pixels(form_.height));
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
   const QWidget* inFocus = focusWidget();
-  for (const auto& mirror : mirrors_) mirror->level();
+  for (const auto& mirror : mirrors_) mirror->refresh();
   if (inFocus == nullptr || !inFocus->isVisible()) focusFirst();
 }
 
-// The widget that Qt would choose is another one: it takes the stops for a ring.
+// Qt would choose a different widget, because it treats the stops as a ring.
 void FormWindow::focusFirst() {
   for (const TabStop& stop : stops_) {
     if (stop.widget->isVisible() && stop.widget->isEnabled()) return stop.widget->setFocus();
@@ -63,8 +65,8 @@ void FormWindow::focusFirst() {
 
 void FormWindow::present() {
   setEnabled(true);
-  level();
-  if (!isVisible()) place();
+  refresh();
+  if (!isVisible()) centreOrRestore();
   if (isMinimized()) showNormal();
   show();
   const QPointer<QWidget> before = std::exchange(inFocus_, nullptr);
@@ -77,21 +79,21 @@ void FormWindow::present() {
   activateWindow();
 }
 
-void FormWindow::place() {
+void FormWindow::centreOrRestore() {
   if (!open_) {
     const QRect room = screen()->availableGeometry();
     const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     adjustSize();
     const QSize size = this->size() + QSize(0, titleBar);
-    place_ = room.center() - QRect(QPoint(), size).center();
+    position_ = room.center() - QRect(QPoint(), size).center();
     open_ = true;
   }
-  move(place_);
+  move(position_);
 }
 
 void FormWindow::putAway() {
   if (!isVisible()) return;
-  place_ = pos();
+  position_ = pos();
   inFocus_ = focusWidget();
   hide();
   setEnabled(false);
@@ -103,6 +105,14 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     open_ = false;
   } else {
     enterFromQt([this] { run(form_.unload); });
+  }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && form_.unload == nullptr) {
+    close();
+  } else {
+    QMainWindow::keyPressEvent(event);
   }
 }
 

@@ -14,8 +14,8 @@ class FormWindow : public QMainWindow {
  public:
   explicit FormWindow(Form& form);
 
-  // Brings everything in the window level with the data.
-  void level();
+  // Shows what has changed in the form's data.
+  void refresh();
 
   // Shows the window, in the centre of the screen or where it was put away, active and in front.
   void present();
@@ -28,10 +28,11 @@ class FormWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void makeMenus();
-  void place();
+  void centreOrRestore();
   void focusFirst();
 
   Form& form_;
@@ -39,7 +40,7 @@ class FormWindow : public QMainWindow {
   Mirrors mirrors_;
   std::vector<TabStop> stops_;
   bool open_ = false;
-  QPoint place_;               // to come back to, while open
+  QPoint position_;            // to come back to, while open
   QPointer<QWidget> inFocus_;  // when the form was put away
 };
 

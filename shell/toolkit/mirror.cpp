@@ -17,7 +17,9 @@
 namespace glonks {
 namespace {
 
-constexpr i32 labelIndent = 60;  // twips; brings a label's text in line with that of lists
+constexpr i32 labelIndent = 60;   // twips; brings a label's text in line with that of lists
+constexpr i32 narrowIndent = 30;  // of a label that needs all the room there is
+constexpr int smallestFont = 7;   // logical pixels; smaller ones can't be read
 constexpr int afterAllOthers = std::numeric_limits<int>::max();  // place of a tab stop
 
 // `View` is the widget's class. `shown` holds the data as the widget shows it.
@@ -29,9 +31,9 @@ class MirrorOf : public Mirror {
     view_.setVisible(true);
   }
 
-  void level() override {
-    levelPlace();
-    levelContents();
+  void refresh() override {
+    refreshBounds();
+    refreshContents();
     if (differs(&Control::enabled)) view_.setEnabled(data_.enabled != False);
     if (view_.isHidden() == isOnShow()) view_.setVisible(isOnShow());
   }
@@ -39,10 +41,11 @@ class MirrorOf : public Mirror {
   View& view() { return view_; }
 
  protected:
-  virtual void levelContents() = 0;
+  virtual void refreshContents() = 0;
   virtual bool isOnShow() const { return data_.visible != False; }
+  virtual i32 overhang() const { return 0; }
 
-  // Whether the field isn't shown as it is now; from then on it counts as shown.
+  // Whether the widget doesn't show the field as it is now. Afterwards it counts as shown.
   template <typename Owner, typename Field>
   bool differs(Field Owner::*field) {
     if (shown_.*field == data_.*field) return false;
@@ -54,10 +57,10 @@ class MirrorOf : public Mirror {
   View& view_;
 
  private:
-  void levelPlace() {
-    const QRect place(pixels(data_.left), pixels(data_.top), pixels(data_.width),
-                      pixels(data_.height));
-    if (view_.geometry() != place) view_.setGeometry(place);
+  void refreshBounds() {
+    const QRect bounds(pixels(data_.left), pixels(data_.top), pixels(data_.width + overhang()),
+                       pixels(data_.height));
+    if (view_.geometry() != bounds) view_.setGeometry(bounds);
   }
 
   Data shown_;
@@ -68,13 +71,32 @@ class LabelMirror : public MirrorOf<Label, QLabel> {
   LabelMirror(Label& data, QWidget& parent) : MirrorOf(data, parent) {
     view_.setTextFormat(Qt::PlainText);
     view_.setWordWrap(true);
-    view_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    view_.setIndent(pixels(labelIndent));
   }
 
  protected:
-  void levelContents() override {
-    if (differs(&Label::caption)) view_.setText(shownText(data_.caption));
+  i32 overhang() const override { return data_.overhang; }
+
+  void refreshContents() override {
+    if (!differs(&Label::caption)) return;
+    const bool isNarrow = data_.overhang > 0;
+    view_.setIndent(pixels(isNarrow ? narrowIndent : labelIndent));
+    view_.setAlignment(Qt::AlignLeft | (isNarrow ? Qt::AlignVCenter : Qt::AlignTop));
+    view_.setText(shownText(data_.caption));
+    fitFont();
+  }
+
+ private:
+  void fitFont() {
+    QFont font = QApplication::font();
+    const QRect room(0, 0, view_.width() - view_.indent(), view_.height());
+    const auto isCut = [&] {
+      const QFontMetrics metrics(font);
+      return metrics.boundingRect(room, Qt::TextWordWrap, view_.text()).width() > room.width();
+    };
+    while (isCut() && font.pixelSize() > smallestFont * scaleFactor()) {
+      font.setPixelSize(font.pixelSize() - 1);
+    }
+    view_.setFont(font);
   }
 };
 
@@ -87,7 +109,7 @@ class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
   }
 
  protected:
-  void levelContents() override {
+  void refreshContents() override {
     if (differs(&TextBox::fontHeight)) {
       QFont font = view_.font();
       font.setPixelSize(pixels(data_.fontHeight));
@@ -115,7 +137,7 @@ class ImageMirror : public MirrorOf<Image, PictureView> {
   HotSpot& spot() { return spot_; }
 
  protected:
-  void levelContents() override {
+  void refreshContents() override {
     if (differs(&Image::picture)) view_.setFile(pictureFile(data_.picture));
     if (differs(&Image::hint)) {
       spot_.setAccessibleName(shownText(data_.hint));
@@ -138,7 +160,7 @@ QStringList shownItems(const Choices& list) {
   return texts;
 }
 
-// The player's choice. The row may be gone from the data by now, and not yet from the widget.
+// The player's choice. The row may be gone from the data already, but not yet from the widget.
 void choose(Choices& list, int row) {
   enterFromQt([&list, row] {
     if (row < static_cast<int>(list.items.size())) setListIndex(list, row);
@@ -151,7 +173,7 @@ class ChoicesMirror : public MirrorOf<Data, View> {
   using MirrorOf<Data, View>::MirrorOf;
 
  protected:
-  void levelContents() override {
+  void refreshContents() override {
     View& view = this->view_;
     if (this->differs(&Choices::items)) {
       view.clear();
@@ -187,7 +209,7 @@ class ScrollBarMirror : public MirrorOf<HScrollBar, QScrollBar> {
   }
 
  protected:
-  void levelContents() override {
+  void refreshContents() override {
     const QSignalBlocker silence(view_);
     view_.setSingleStep(data_.smallChange);
     view_.setPageStep(data_.largeChange);
@@ -223,9 +245,9 @@ class FrameMirror : public MirrorOf<Frame, QWidget> {
 
  protected:
   // The controls of a hidden page wait until it is shown.
-  void levelContents() override {
+  void refreshContents() override {
     if (!isOnShow()) return;
-    for (const auto& mirror : inside_) mirror->level();
+    for (const auto& mirror : inside_) mirror->refresh();
   }
 
   // A page that is covered doesn't show, so that its controls can't get the focus.

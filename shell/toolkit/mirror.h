@@ -14,8 +14,8 @@ class Mirror {
  public:
   virtual ~Mirror() = default;
 
-  // Brings the widget level with the data, without running handlers. Costs little if it is already.
-  virtual void level() = 0;
+  // Shows what has changed in the data, without running handlers. Costs little if nothing has.
+  virtual void refresh() = 0;
 };
 using Mirrors = std::vector<std::unique_ptr<Mirror>>;
 
@@ -30,8 +30,8 @@ struct TabStop {
 Mirrors makeMirrors(const std::vector<ControlRef>& controls, QWidget& parent,
                     std::vector<TabStop>& stops);
 
-// Lets the Tab key go through the stops by place, and by order of creation where that is equal.
-// They are in that order afterwards.
+// Makes the Tab key visit the stops by place, and in order of creation where places are equal.
+// Sorts them that way.
 void orderTabStops(std::vector<TabStop>& stops);
 
 }  // namespace glonks

@@ -83,8 +83,7 @@ QScrollBar::handle:disabled { background: rgba(230, 232, 238, 40); }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 
-QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
-QLabel#qt_msgbox_label { min-width: 270px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton {
   background: #2a2f3c;
   border: 1px solid #464e61;
@@ -148,8 +147,10 @@ QPalette darkPalette() {
 
 }  // namespace
 
-void applyStyle(QApplication& application) {
-  factor = factorFor(QGuiApplication::primaryScreen());
+int fittingFactor() { return factorFor(QGuiApplication::primaryScreen()); }
+
+void applyStyle(QApplication& application, int newFactor) {
+  factor = newFactor;
   QApplication::setStyle("Fusion");
   QApplication::setPalette(darkPalette());
   QApplication::setFont(baseFont());

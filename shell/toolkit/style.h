@@ -6,19 +6,22 @@
 
 #include "base/types.h"
 
-// Size and looks of everything that the toolkit shows.
+// Size and look of everything that the toolkit shows.
 namespace glonks {
 
-// Sets factor, fonts, colours and style sheet, to suit the main screen.
-void applyStyle(QApplication& application);
+// The factor that suits the main screen, 1 to 4.
+int fittingFactor();
 
-// The whole factor, 1 to 4, by which windows, fonts and all else are enlarged.
+// Sets factor, fonts, colours and style sheet.
+void applyStyle(QApplication& application, int newFactor = fittingFactor());
+
+// The whole factor by which windows, fonts and all else are enlarged.
 int scaleFactor();
 
 // A length in twips as screen pixels.
 int pixels(i32 twips);
 
-// A text of the program (Windows-1252) as Qt takes it.
+// A text of the program (Windows-1252) as Qt needs it.
 QString shownText(const std::string& text);
 
 }  // namespace glonks

@@ -1,23 +1,19 @@
 #include "shell/toolkit/toolkit.h"
 
-#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QLockFile>
-#include <QMessageBox>
 #include <QProcess>
 #include <QUrl>
 #include <clocale>
 #include <map>
-#include <memory>
 #include <utility>
 
 #include "base/paths.h"
 #include "base/text.h"
+#include "shell/toolkit/application.h"
+#include "shell/toolkit/dialogbox.h"
 #include "shell/toolkit/entry.h"
 #include "shell/toolkit/formwindow.h"
 #include "shell/toolkit/style.h"
@@ -28,14 +24,11 @@ namespace {
 constexpr char programName[] = "Glonks";
 constexpr int longestTurn = 10;  // milliseconds that waiting events may take in one go
 
-// Neither the application nor the windows are ever deleted: at the end of the program Qt's own
-// static objects could be gone before them.
+// Never deleted, like the application.
 std::map<Form*, FormWindow*>& windows() {
   static auto* all = new std::map<Form*, FormWindow*>;
   return *all;
 }
-
-std::unique_ptr<QLockFile> folderLock;
 
 FormWindow& windowOf(Form& form) {
   FormWindow*& window = windows()[&form];
@@ -48,9 +41,9 @@ bool isOpen(Form& form) {
   return found != windows().end() && found->second->isOpen();
 }
 
-void levelVisibleForms() {
+void refreshVisibleForms() {
   for (const auto& [form, window] : windows()) {
-    if (window->isVisible()) window->level();
+    if (window->isVisible()) window->refresh();
   }
 }
 
@@ -65,12 +58,12 @@ FormWindow* formInFront() {
 }
 
 FormWindow* dialogParent() {
-  levelVisibleForms();
+  refreshVisibleForms();
   return formInFront();
 }
 
-// Shows a dialog until the player has answered it, and gives what it gives.
-int runDialog(QDialog& box) {
+// Shows a dialog until the player has answered it. True if the answer was its first button.
+bool runDialog(DialogBox& box) {
   box.setWindowTitle(programName);
   if (box.parent() == nullptr) box.setWindowFlag(Qt::WindowStaysOnTopHint);
   int answer = QDialog::Rejected;
@@ -79,47 +72,26 @@ int runDialog(QDialog& box) {
     answer = box.exec();
   }
   raiseKept();
-  return answer;
+  return answer == QDialog::Accepted;
 }
 
-int askBox(const std::string& text, QMessageBox::StandardButtons buttons,
-           QMessageBox::StandardButton first) {
-  QMessageBox box(dialogParent());
-  box.setTextFormat(Qt::PlainText);
-  box.setText(shownText(text));
-  box.setStandardButtons(buttons);
-  box.setDefaultButton(first);
+bool ask(const std::string& text, QDialogButtonBox::StandardButtons buttons) {
+  DialogBox box(shownText(text), buttons, dialogParent());
   return runDialog(box);
 }
 
 }  // namespace
 
-void startToolkit(int argc, char** argv) {
-  static int argumentCount = argc;
-  auto* application = new QApplication(argumentCount, argv);
+void startToolkit() {
+  makeApplication(programName);
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setApplicationName(programName);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(QIcon(":/forms/icon.png"));
-  applyStyle(*application);
-  setAfterHandler(levelVisibleForms);
+  setAfterHandler(refreshVisibleForms);
 }
 
 std::filesystem::path folderOfProgram() {
   return QDir(QCoreApplication::applicationDirPath()).filesystemAbsolutePath();
-}
-
-FolderHold holdFolder(const std::filesystem::path& folder) {
-  // Asked first: where nothing can be written, a dead run's lock would look like a living one's.
-  if (!QFileInfo(folder).isWritable()) return FolderHold::notWritable;
-  auto lock = std::make_unique<QLockFile>(QFileInfo(folder / "glonks.lock").filePath());
-  lock->setStaleLockTime(0);
-  if (lock->tryLock(0)) {
-    folderLock = std::move(lock);
-    return FolderHold::held;
-  }
-  return lock->error() == QLockFile::LockFailedError ? FolderHold::otherRun
-                                                     : FolderHold::notWritable;
 }
 
 void showForm(Form& form, Handler load) {
@@ -134,7 +106,7 @@ void hideForm(Form& form) {
 
 void runEvents() {
   if (!isAnythingKept() && !takeEndRequest()) {
-    levelVisibleForms();
+    refreshVisibleForms();
     const LoopInUse loop([] { QCoreApplication::exit(); });
     QApplication::exec();
     takeEndRequest();
@@ -145,7 +117,7 @@ void runEvents() {
 void endProgram() { requestEnd(); }
 
 void letFormMessagesThrough() {
-  levelVisibleForms();
+  refreshVisibleForms();
   {
     const LoopInUse loop([] {});
     QCoreApplication::processEvents(QEventLoop::AllEvents, longestTurn);
@@ -162,20 +134,16 @@ bool startProgram(const std::string& path) {
   return QProcess::startDetached(file.filePath(), {}, file.path());
 }
 
-void messageBox(const std::string& text) { askBox(text, QMessageBox::Ok, QMessageBox::Ok); }
+void messageBox(const std::string& text) { ask(text, QDialogButtonBox::Ok); }
 
 Flag yesNoBox(const std::string& question) {
-  const auto buttons = QMessageBox::Yes | QMessageBox::No;
-  return flagOf(askBox(question, buttons, QMessageBox::Yes) == QMessageBox::Yes);
+  return flagOf(ask(question, QDialogButtonBox::Yes | QDialogButtonBox::No));
 }
 
 std::string inputBox(const std::string& prompt, i32 longest) {
-  QInputDialog box(dialogParent());
-  box.setInputMode(QInputDialog::TextInput);  // makes the line
-  box.setLabelText(shownText(prompt));
-  auto* line = box.findChild<QLineEdit*>();
-  line->setMaxLength(longest);
-  return runDialog(box) == QDialog::Accepted ? fromUtf8(line->text().toStdString()) : "";
+  DialogBox box(shownText(prompt), QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialogParent());
+  const QLineEdit& line = box.addLine(longest);
+  return runDialog(box) ? fromUtf8(line.text().toStdString()) : "";
 }
 
 }  // namespace glonks

@@ -10,30 +10,26 @@
 // letFormMessagesThrough; what a handler raises comes out of there.
 namespace glonks {
 
-// Makes the toolkit ready; first call of the program. The program's folder is that of the program
-// file.
-void startToolkit(int argc, char** argv);
+// Makes the toolkit ready; first call of the program. Without a display, ends the program with a
+// sentence on stderr and exit status 1. The program's folder is that of the program file.
+void startToolkit();
 std::filesystem::path folderOfProgram();
-
-// Holds the folder for this run of the program alone. What hinders it, if anything:
-enum class FolderHold { held, otherRun, notWritable };
-FolderHold holdFolder(const std::filesystem::path& folder);
 
 // Shows a form, active and in front. For one that isn't open `load` runs first, and it comes up in
 // the centre of the screen; after hideForm it comes back to its old place as it was. The form and
 // its controls have to live on.
 void showForm(Form& form, Handler load = nullptr);
-// Puts a form out of use and out of sight; it keeps what it shows.
+// Hides and disables a form; it keeps what it shows.
 void hideForm(Form& form);
 
 // Runs the program by its events until endProgram, and raises what a handler has raised.
 void runEvents();
 void endProgram();
 
-// Handles all events of forms that are waiting.
+// Handles all events that are waiting for forms.
 void letFormMessagesThrough();
 
-// Has the system open an address, by the player's browser for a web address. Doesn't wait.
+// Asks the system to open an address, a web address in the player's browser. Doesn't wait.
 void openBySystem(const std::string& address);
 
 // Starts a program file as a process of its own, which outlives this one, in its own folder.
@@ -49,8 +45,8 @@ void messageBox(const std::string& text);
 // A question with the buttons Yes and No: True for Yes, False for anything else.
 Flag yesNoBox(const std::string& question);
 
-// A line to type, at first empty, of at most `longest` characters, with the buttons OK and Cancel.
-// Gives what was typed, in Windows-1252 with "?" for what that set lacks; empty for Cancel.
+// An input line, empty at first, of at most `longest` characters, with the buttons OK and Cancel.
+// Returns what was typed, in Windows-1252 with "?" for characters it lacks; empty for Cancel.
 std::string inputBox(const std::string& prompt, i32 longest);
 
 }  // namespace glonks

@@ -1,5 +1,6 @@
 #include "shell/toolkit/widgets.h"
 
+#include <QFileInfo>
 #include <QHelpEvent>
 #include <QImageReader>
 #include <QKeyEvent>
@@ -26,7 +27,7 @@ void PictureView::fitTo(const QSize& size) {
   if (size == fittedTo_) return;
   fittedTo_ = size;
   fitted_ = QPixmap();
-  if (file_.isEmpty()) return;
+  if (!QFileInfo(file_).isFile()) return;  // reading a pipe or a device might never end
   QImageReader reader(file_);
   reader.setDecideFormatFromContent(true);
   // Scaled in full colour: a picture with a palette would be dithered back to it.

@@ -6,7 +6,7 @@
 #include <QPixmap>
 #include <functional>
 
-// The widgets that Qt doesn't have in the form that the controls need.
+// Widgets that the controls need and that Qt doesn't have in this form.
 namespace glonks {
 
 // A picture, stretched over the widget.
@@ -14,7 +14,8 @@ class PictureView : public QWidget {
  public:
   explicit PictureView(QWidget* parent);
 
-  // Shows the picture of this file, or nothing if it can't be loaded or the name is empty.
+  // Shows the picture of this file, or nothing if it can't be loaded, isn't a regular file or has
+  // no name.
   void setFile(const QString& file);
 
  protected:
@@ -50,9 +51,9 @@ class DropDown : public QComboBox {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A list with at most one row selected. A tab in a row begins a second column. Rows move together
-// as far as that shows all of them without scrolling. `chosen` runs when the player has chosen a
-// row, also the one that was selected already; not when the program selects one.
+// A list with at most one row selected. A tab in a row begins a second column. Rows move closer
+// together if that shows all of them without scrolling. `chosen` runs when the player has chosen a
+// row, even one that was selected already, but not when the program selects one.
 class ChoiceList : public QListWidget {
  public:
   explicit ChoiceList(QWidget* parent);

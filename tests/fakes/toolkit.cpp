@@ -19,9 +19,8 @@ void resetToolkit() {
 
 }  // namespace fake
 
-void startToolkit(int /*argc*/, char** /*argv*/) {}
+void startToolkit() {}
 std::filesystem::path folderOfProgram() { return {}; }
-FolderHold holdFolder(const std::filesystem::path& /*folder*/) { return FolderHold::held; }
 void showForm(Form& form, Handler /*load*/) { fake::forms.push_back("show " + form.caption); }
 void hideForm(Form& form) { fake::forms.push_back("hide " + form.caption); }
 void runEvents() {}

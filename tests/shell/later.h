@@ -4,9 +4,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QMessageBox>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -35,21 +36,23 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
   return nullptr;
 }
 
-inline std::string lastMessage;  // the text of the last message box that was answered
+inline std::string lastMessage;  // the text of the last dialog that was answered
 
-// Answers the next dialog by a key, after typing a text where there is a line for one. Gives up if
-// none comes for as many event loops as `patience` says.
+// Answers the next dialog with a key, after typing a text where there is a line for one. Gives up
+// if none comes for as many event loops as `patience` says.
 inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20) {
   later([=] {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) {
-      if (patience > 0) answerNext(key, typed, patience - 1);
-      return;
-    }
-    if (const auto* message = qobject_cast<QMessageBox*>(dialog)) {
-      EXPECT_EQ(message->textFormat(), Qt::PlainText);
-      lastMessage = message->text().toStdString();
-    }
+    if (dialog == nullptr) return patience > 0 ? answerNext(key, typed, patience - 1) : void();
+    const auto* label = dialog->findChild<QLabel*>();
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    // The room that the text needs lies in the label, the label in the dialog, that on the screen.
+    const QRect room(0, 0, label->width(), QWIDGETSIZE_MAX);
+    const QRect needed = label->fontMetrics().boundingRect(room, Qt::TextWordWrap, label->text());
+    EXPECT_TRUE(label->wordWrap() && label->rect().contains(needed)) << label->width();
+    EXPECT_TRUE(dialog->rect().contains(label->geometry()) &&
+                dialog->screen()->geometry().contains(dialog->geometry()));
+    lastMessage = label->text().remove(QChar(0x200b)).toStdString();
     auto* line = dialog->findChild<QLineEdit*>();
     if (line != nullptr) line->insert(typed);
     QTest::keyClick(line != nullptr ? line : dialog, key);

@@ -7,6 +7,6 @@
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   testing::InitGoogleTest(&argc, argv);
-  glonks::startToolkit(argc, argv);
+  glonks::startToolkit();
   return RUN_ALL_TESTS();
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+namespace glonks {
+
+// Holds a folder for this run of the program alone, by a lock on its file "glonks.lock". The system
+// releases the lock when the process ends, however it ends; what the file contains doesn't matter.
+// The result says what is in the way, if anything.
+enum class FolderHold { held, otherRun, notWritable };
+FolderHold holdFolder(const std::filesystem::path& folder);
+
+}  // namespace glonks
