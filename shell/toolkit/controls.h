@@ -7,13 +7,12 @@
 #include <vector>
 
 #include "base/types.h"
+#include "shell/toolkit/twips.h"
 
 // The controls of the menu's windows as plain data. The toolkit mirrors them on the screen; without
 // a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are
 // Windows-1252.
 namespace glonks {
-
-inline constexpr i32 twipsPerPixel = 15;
 
 using Handler = void (*)();  // may be nullptr: nothing happens then
 

@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "shell/toolkit/controls.h"
+#include "shell/toolkit/twips.h"
 
 namespace glonks {
 namespace {
