@@ -16,4 +16,8 @@ const std::filesystem::path& programFolder();
 // taken as it stands.
 std::filesystem::path nativePath(std::string_view path);
 
+// Whether there is a regular file at a path of the system. Anything else isn't opened for reading:
+// a device may have no end, and a pipe may hang.
+bool isRegularFile(const std::filesystem::path& path);
+
 }  // namespace glonks

@@ -9,8 +9,8 @@
 
 #include "base/errors.h"
 #include "base/text.h"
-#include "game/loading/pieces.h"
 #include "game/model/model.h"
+#include "storage/files/datafiles.h"
 #include "storage/files/textchannels.h"
 
 namespace glonks {
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
 constexpr std::size_t longestTitle = 636;  // what the ticker takes
-const std::string freestyleFile = "2193";
+const std::string freestyleFile = std::to_string(freestyleLevel);
 
 struct Field {
   std::string name;
@@ -62,7 +62,7 @@ class LevelCheck {
       files.insert(entry.path());
     }
     for (const fs::path& file : files) readPlain(file, &LevelCheck::checkLevel);
-    readPlain(init_ / "6537", &LevelCheck::checkOpenLevels);
+    readPlain(init_ / levelsFileName, &LevelCheck::checkOpenLevels);
     for (const auto& [name, level] : levels_) checkLinks(name, level);
     return faults_;
   }
