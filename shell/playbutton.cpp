@@ -74,6 +74,7 @@ void loadChosenLevel() {
   try {
     loadLevel(pathOfLevel(), gameMode.hasGoals);
   } catch (const RuntimeError&) {
+    gameOver = True;  // so that fConsole can be closed
     destroy();
     throw;
   }
