@@ -99,25 +99,24 @@ TEST_F(MainWindowTest, StartShowsTheTitleWithEverythingRead) {
 }
 
 TEST_F(MainWindowTest, MenuEntriesShowTheirPageOrWindow) {
-  const std::tuple<const char*, const char*, int> pages[] = {
+  const std::tuple<const char*, const char*, std::size_t> pages[] = {
       {"&Game", "&New", 0},      {"&Options", "&Spend Credits", 3}, {"&Options", "&Backgrounds", 4},
       {"&Options", "&Music", 5}, {"&View", "&High Scores", 1},      {"&View", "&Bands", 6},
       {"&View", "&Credits", 2},  {"&View", "&Credits", 2},          {"&Game", "&New", 0}};
   setText(tMode, "B-Type");
   for (const auto& [menu, entry, page] : pages) {
     choose(menu, entry);
-    for (int i = 0; i < pageCount; ++i) {
-      const Frame& other = frame[static_cast<std::size_t>(i)];
-      EXPECT_TRUE(other.visible == flagOf(i == page) && other.enabled == other.visible) << entry;
+    for (const Frame& other : frame) {
+      EXPECT_TRUE(other.visible == flagOf(&other == &frame[page])) << entry;
+      EXPECT_EQ(other.enabled, other.visible);
     }
   }
   EXPECT_TRUE(textOf(tMode) == "B-Type" && tLevels.items.size() == 3);
-  const std::pair<const char*, const char*> windows[] = {
-      {"&About", "about"}, {"&Pieces", "the specimen box"}, {"&Controls", "the control room"}};
-  for (const auto& [entry, title] : windows) {
+  for (const auto& [entry, title] : {std::pair{"&About", "about"},
+                                     {"&Pieces", "the specimen box"},
+                                     {"&Controls", "the control room"}}) {
     choose("&Help", entry);
-    ASSERT_NE(shownWindow(title), nullptr) << title;
-    EXPECT_FALSE(shownWindow(title)->isModal());
+    EXPECT_TRUE(shownWindow(title) != nullptr && !shownWindow(title)->isModal()) << title;
   }
   answered(Qt::Key_Return, [this] { choose("&Help", "&Manual"); });
   EXPECT_PRED2(holds, lastMessage, "\\manual.exe") << "there is none in this folder";
@@ -131,22 +130,21 @@ TEST_F(MainWindowTest, HotSpotsLieOverTheButtonsOfTheirPictures) {
       {&main_BtnRun, &Image7}, {&launch, &Image2}, {&Image6, &Image10}};
   for (const Image& buy : purchase) spots.emplace_back(&buy, &Image4);
   for (const auto& [spot, behind] : spots) {
-    const QString file = GLONKS_SOURCE "/assets" + QString::fromStdString(behind->picture).mid(1);
-    const QSize size = QSize(behind->width, behind->height) / twipsPerPixel;
-    const QImage picture = QImage(file).scaled(size);
-    ASSERT_FALSE(picture.isNull()) << file.toStdString();
-    const QRect area(spot->left - behind->left, spot->top - behind->top, spot->width, spot->height);
+    const QImage picture(GLONKS_SOURCE "/assets" + QString::fromStdString(behind->picture).mid(1));
+    ASSERT_FALSE(picture.isNull()) << behind->picture;
+    const QImage page = picture.scaled(behind->width / 15, behind->height / 15);
+    const QRect area((spot->left - behind->left) / 15, (spot->top - behind->top) / 15,
+                     spot->width / 15, spot->height / 15);
     int inside = 0;
     int around = 0;
-    for (int i = 0; i < size.width() * size.height(); ++i) {
-      const QPoint at(i % size.width(), i / size.width());
-      const QColor colour = picture.pixelColor(at);
+    for (int i = 0; i < page.width() * page.height(); ++i) {
+      const QPoint at(i % page.width(), i / page.width());
+      const QColor colour = page.pixelColor(at);
       if (colour.red() < 150 || colour.red() < colour.blue() + 60) continue;
-      if (area.contains(at * twipsPerPixel)) ++inside;
-      if (area.adjusted(-90, -90, 90, 90).contains(at * twipsPerPixel)) ++around;
+      if (area.contains(at)) ++inside;
+      if (area.adjusted(-6, -6, 6, 6).contains(at)) ++around;
     }
-    EXPECT_GT(inside * twipsPerPixel * twipsPerPixel, 0.6 * area.width() * area.height())
-        << spot->hint;
+    EXPECT_GT(inside, 0.6 * area.width() * area.height()) << spot->hint;
     EXPECT_EQ(around, inside) << spot->hint;
   }
 }
@@ -173,18 +171,13 @@ TEST_F(MainWindowTest, SpecimensTellAboutThemselvesUntilTheBoxIsClosed) {
 }
 
 TEST_F(MainWindowTest, TipIsALineOfItsFileOrAGreeting) {
-  const std::pair<const char*, const char*> table[] = {
-      {"One, \"two\", three\r\n", "One, \"two\", three"},
-      {"", "Welcome to Glonks!"},
-      {nullptr, "Welcome to Glonks!"}};
-  for (const auto& [file, shown] : table) {
-    std::filesystem::remove(nativePath("\\init\\1182"));
-    if (file != nullptr) putScrambled("\\init\\1182", file);
-    closeLog();
-    fTip_Form_Load();
-    EXPECT_PRED2(holds, tip.text, shown);
-    EXPECT_FALSE(exists(tempPath));
+  for (const auto& [file, shown] :
+       {std::pair{"One, \"two\", three\r\n", "One, \"two\", three"}, {"", "Welcome to Glonks!"}}) {
+    putScrambled("\\init\\1182", file);
+    EXPECT_PRED2(holds, pickTip(), shown);
   }
+  std::filesystem::remove(nativePath("\\init\\1182"));
+  EXPECT_PRED2(holds, pickTip(), "Welcome to Glonks!");
   showForm(fTip);
   EXPECT_NE(shownWindow(" "), nullptr);
 }
