@@ -35,6 +35,9 @@ class PlayerData : public TempFolder {
     fake::resetToolkit();
     layOutMenu();
     popModes();
+    takeNews();
+    openLevels.clear();
+    newLevels.clear();
   }
   static void putPlain(const PlayersFile& file, const std::string& plain) {
     putBytes("\\plain", plain);
