@@ -11,7 +11,8 @@ void fMain_Form_Load();
 // stored one. Raises what readPlayersFile raises: nothing is touched then, and the program ends.
 void boot();
 
-// Closing by the window's close box: stores what can be stored, closes the log and ends the program.
+// Closing by the window's close box: stores what can be stored, closes the log and ends the
+// program.
 void fMain_Form_Unload();
 
 void mExit_Click();  // ends the program at once, storing nothing

@@ -176,6 +176,7 @@ const Damage damages[] = {
     {scoresFile, "missing", 0, nullptr, beginners, "is missing."},
     {scoresFile, "", 0, nullptr, beginners, "None of its 10 scores"},
     {scoresFile, std::string(600'000, '\n'), 0, nullptr, beginners, "None of its 10 scores"},
+    {scoresFile, beginners, 0, "x", beginners, "9 of its 10 scores"},
     {scoresFile, table, 3, "x", withoutD, "9 of its 10 scores"},
     {scoresFile, table, 3, "256.", withoutD, "9 of its 10 scores"},
     {scoresFile, table, 3, "1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.", withoutD, "9 of its 10 scores"},
