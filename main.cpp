@@ -8,10 +8,10 @@
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/ftip.h"
+#include "shell/saving.h"
 #include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
-#include "storage/store.h"
 
 namespace {
 
@@ -34,22 +34,14 @@ bool holdProgramFolder() {
   return false;
 }
 
-// What the player has earned in a game that failed. A failure to store it was told and answered.
-void keepEarnings() {
-  try {
-    writeStore();
-  } catch (const std::exception&) {
-    logStep("error store not saved");
-  }
-}
-
-// The end of a run that failed: one line in the log, the screen given back, one message.
+// The end of a run that failed: one line in the log, what the player has earned stored, the screen
+// given back, one message.
 void endFailedRun(const std::string& logged, const std::string& shown) {
   logStep("error " + logged);
+  saveSilently();
   if (fConsole.hWnd != 0) {
     gameOver = True;
     destroy();
-    keepEarnings();
   }
   closeLog();
   messageBox(shown);

@@ -14,9 +14,9 @@ enum class ErrorNumber {
   outOfMemory = 7,     // memory that can't be had
   typeMismatch = 13,   // a text where a number has to stand
   channelUse = 52,     // a channel that isn't open, or open already
-  fileNotFound = 53,   // no such file, or it can't be read
+  fileNotFound = 53,   // no such file
   inputPastEnd = 62,   // a file that is shorter than its reader needs
-  fileAccess = 75,     // a file that can't be written, replaced or deleted
+  fileAccess = 75,     // a file that can't be opened, read, written, replaced or deleted now
   badFile = 321,       // a file whose bytes aren't of the kind expected
   serviceFailed = 429  // screen, keyboard or font couldn't be had
 };

@@ -23,8 +23,8 @@ std::filesystem::path nativePath(std::string_view path) {
 }
 
 bool isRegularFile(const std::filesystem::path& path) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(path, error);
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(path, ignored);
 }
 
 }  // namespace glonks

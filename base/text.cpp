@@ -116,6 +116,10 @@ void appendUtf8(std::string& utf8, char32_t unicode) {
 
 }  // namespace
 
+bool isControl(char c) { return (c >= 0 && c < ' ') || c == 127; }
+
+bool isPrintableAscii(char c) { return c >= ' ' && c < 127; }
+
 std::string trimmed(std::string_view text) {
   text.remove_prefix(firstNonBlank(text));
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
@@ -129,7 +133,7 @@ double leadingNumber(std::string_view text) {
   std::istringstream number(std::string(text.substr(from, end - from)));
   number.imbue(std::locale::classic());
   double value = 0;
-  number >> value;  // out of range gives the largest double, which no field takes
+  number >> value;  // out of range gives the largest double
   return value;
 }
 

@@ -9,11 +9,15 @@
 // are the ways to numbers and to Unicode and back; none depends on the locale.
 namespace glonks {
 
+// Whether a character is a control character, or one of the 95 that ASCII can print.
+bool isControl(char c);
+bool isPrintableAscii(char c);
+
 // The text without blanks and tabs at its ends.
 std::string trimmed(std::string_view text);
 
 // The leading numeric part of `text` (sign, digits, fraction, exponent; blanks before it skipped),
-// 0 if there is none.
+// 0 if there is none. One that is too large for a double counts as the largest.
 double leadingNumber(std::string_view text);
 
 // Whether the text, blanks at its ends aside, is one number and nothing else.

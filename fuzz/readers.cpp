@@ -22,6 +22,7 @@
 #include "shell/newgamepage.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
+#include "storage/files/datafiles.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
@@ -33,8 +34,8 @@
 
 // One reader of the game's files, chosen by FUZZ_READER, under arbitrary bytes. The first byte of
 // an input tells whether the others are the plain file or the scrambled one. A reader may raise
-// RuntimeError, one of a player's file nothing at all; it leaves no temp file and no channel open,
-// and what it has read comes out the same after a save.
+// RuntimeError, one of a player's file, the bands or the tips nothing at all; it leaves no temp
+// file and no channel open. What has been read of a player's file comes out the same after a save.
 namespace {
 
 using namespace glonks;
@@ -46,8 +47,16 @@ void require(bool holds, const char* what) {
   std::abort();
 }
 
+// What has been replaced counts as damaged no more.
+void loadTwice(void (*load)()) {
+  load();
+  takeNews();
+  load();
+  require(takeNews().empty(), "damaged only once");
+}
+
 void readScores() {
-  loadScores();
+  loadTwice(loadScores);
   const auto table = highScores;
   saveScores();
   loadScores();
@@ -71,7 +80,7 @@ void readStore() {
     }
     return text;
   };
-  loadStore();
+  loadTwice(loadStore);
   require(bank >= 0 && notesCollected >= 0 && musicVolume >= 0 && musicVolume <= loudest, "ranges");
   const std::string before = state();
   saveStore();
@@ -80,6 +89,7 @@ void readStore() {
 }
 
 void readLevelList() {
+  loadTwice(readOpenLevels);
   setText(tMode, "Arcade");
   require(!tLevels.items.empty(), "a level to play");
   const auto before = tLevels.items;
@@ -97,9 +107,7 @@ void readBandList() {
           "as many links as names");
 }
 
-void readTipFile() {
-  require(!pickTip().empty() || !fs::is_empty(nativePath("\\init\\1182")), "tip");
-}
+void readTipFile() { require(!pickTip().empty() || !fs::is_empty(nativePath(tipsPath)), "tip"); }
 
 void readPieceFile() {
   const Piece piece = loadPiece("1281");
@@ -123,7 +131,7 @@ std::string bytesOf(const std::string& path) {
 
 // Whatever line ends the lines hold, they are the file's own after one turn.
 void readLines() {
-  unscrambleFile("\\init\\1182", "\\plain");
+  unscrambleFile(tipsPath, "\\plain");
   std::string before;
   for (i32 turn = 0; turn < 2; ++turn) {
     before = bytesOf("\\plain");
@@ -141,12 +149,12 @@ struct Reader {
 };
 const Reader readers[] = {{"piece", "\\init\\1281", readPieceFile, false},
                           {"level", "\\levels\\2193", readLevelFile, false},
-                          {"scores", "\\init\\6095", readScores, true},
-                          {"store", "\\init\\6702", readStore, true},
-                          {"levellist", "\\init\\6537", readLevelList, true},
-                          {"bands", "\\init\\6859", readBandList, false},
-                          {"tips", "\\init\\1182", readTipFile, true},
-                          {"lines", "\\init\\1182", readLines, false}};
+                          {"scores", pathOf(scoresFile), readScores, true},
+                          {"store", pathOf(storeFile), readStore, true},
+                          {"levellist", pathOf(levelsFile), readLevelList, true},
+                          {"bands", bandsPath, readBandList, true},
+                          {"tips", tipsPath, readTipFile, true},
+                          {"lines", tipsPath, readLines, false}};
 
 const Reader& chosenReader() {
   for (const Reader& reader : readers) {

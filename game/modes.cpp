@@ -2,11 +2,11 @@
 
 #include "game/arcade.h"
 #include "game/freestyle.h"
+#include "storage/files/datafiles.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 freestyleLevel = 2193;
 const std::string nothingToSelect = "No levels to select.  Just click Play!";
 
 const Mode table[] = {

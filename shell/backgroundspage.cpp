@@ -20,7 +20,7 @@ void popThemes() {
   clearItems(theme);
   addItem(theme, "Cells");
   addItem(theme, "Embers");
-  setText(theme, themeName);  // an oddity that is kept: this writes the store, like any choice
+  setText(theme, themeName);  // Oddity 27: this writes the store, like any choice
   if (theme.listIndex < 0) setListIndex(theme, 0);
   readBands();
 }

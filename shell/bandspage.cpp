@@ -1,9 +1,13 @@
 #include "shell/bandspage.h"
 
+#include "base/errors.h"
 #include "base/growinglist.h"
+#include "base/text.h"
 #include "shell/links.h"
 #include "shell/menucontrols.h"
 #include "shell/pages.h"
+#include "storage/files/datafiles.h"
+#include "storage/files/log.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
 
@@ -12,23 +16,34 @@ namespace {
 
 constexpr i16 bandsChannel = 4;
 
+void fillBands() {
+  ScrambledReader file(bandsPath, bandsChannel);
+  while (!endOfFile(bandsChannel)) {
+    std::string& name = grow(bandNames, bandsUpper);
+    name = readField(bandsChannel, "band name");
+    bandLinks.push_back(readField(bandsChannel, "link of band \"" + name + "\""));
+  }
+  file.close();
+}
+
+void forgetBands() {
+  erase(bandNames, bandsUpper);
+  bandLinks.clear();
+}
+
 }  // namespace
 
 void mBands_Click() { showPage(bandsPage); }
 
 void readBands() {
-  bandNames.clear();
-  bandLinks.clear();
-  bandsUpper = -1;
-  ScrambledReader file("\\init\\6859", bandsChannel);
-  while (!endOfFile(bandsChannel)) {
-    std::string& name = grow(bandNames, bandsUpper);
-    bandLinks.emplace_back();
-    name = readField(bandsChannel, "band name");
-    addItem(allBands, name);
-    bandLinks.back() = readField(bandsChannel, "link of band \"" + name + "\"");
+  forgetBands();
+  try {
+    fillBands();
+  } catch (const RuntimeError& error) {
+    logStep("error " + plainNumber(error.number()) + ", " + error.what());
+    forgetBands();
   }
-  file.close();
+  for (const std::string& name : bandNames) addItem(allBands, name);
 }
 
 void launch_Click() {

@@ -14,8 +14,8 @@ inline i16 bandsUpper = -1;                 // upper bound of both
 
 void mBands_Click();  // shows the page
 
-// Reads "\init\6859": fields band name and link, for each band. Fills the arrays anew and adds the
-// names to allBands. Raises fileNotFound, badFile or inputPastEnd for that file.
+// Refills the arrays from the file of bands, which has two fields for each, name and link, and adds
+// the names to allBands. If the file can't be read there are none, and a line goes to the log.
 void readBands();
 
 // Opens the link of the band selected in allBands, if it has one.

@@ -59,7 +59,7 @@ void boot() {
   popModes();
   popThemes();
   popSongs();
-  addPage(newGamePage);  // an oddity that is kept: the title page covers it
+  addPage(newGamePage);  // Oddity 28: the title page covers it
   songIndex = -1;
 }
 

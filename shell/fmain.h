@@ -8,10 +8,11 @@ namespace glonks {
 void fMain_Form_Load();
 
 // Fills all lists from their files. The store has to be read before the themes, which select the
-// stored one.
+// stored one. Raises what readPlayersFile raises: nothing is touched then, and the program ends.
 void boot();
 
-// Closing by the window's close box: stores everything, closes the log and ends the program.
+// Closing by the window's close box: stores what can be stored, closes the log and ends the
+// program.
 void fMain_Form_Unload();
 
 void mExit_Click();  // ends the program at once, storing nothing

@@ -11,6 +11,7 @@
 #include "shell/menucontrols.h"
 #include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/datafiles.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
 
@@ -33,7 +34,7 @@ std::vector<std::string> readTips() {
   std::vector<std::string> tips;
   i16 tipsUpper = -1;
   try {
-    ScrambledReader file("\\init\\1182", tipChannel);
+    ScrambledReader file(tipsPath, tipChannel);
     rtcRandomize(clockSeed());
     while (!endOfFile(tipChannel)) grow(tips, tipsUpper) = readLine(tipChannel);
     file.close();

@@ -16,8 +16,8 @@ inline TextBox tip;
 std::string pickTip();
 
 // Start of the program: makes the key tables before anything else touches the random generator,
-// picks a tip from "\init\1182", and loads and shows fMain. The form itself is shown afterwards, so
-// that it comes up on top.
+// picks a tip, and loads and shows fMain. The form itself is shown afterwards, so that it comes up
+// on top.
 void fTip_Form_Load();
 
 }  // namespace glonks

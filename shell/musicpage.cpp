@@ -17,7 +17,7 @@ void popSongs() {
   songNames = songs.items;
 }
 
-// An oddity that is kept: the volume waits for the next save of the store.
+// Oddity 29: the volume waits for the next save of the store.
 void HScroll2_Change() { musicVolume = HScroll2.value; }
 
 void HScroll2_Scroll() { musicVolume = HScroll2.value; }

@@ -41,7 +41,8 @@ void tMode_Click() {
   const Mode mode = modeTitled(textOf(tMode));
   for (const std::string& item : mode.levelItems) addItem(tLevels, item);
   if (mode.hasGoals == True) {
-    for (const OpenLevel& level : readOpenLevels()) addItem(tLevels, level.name, level.file);
+    succeeds(readOpenLevels);
+    for (const OpenLevel& level : openLevels) addItem(tLevels, level.name, level.file);
     tellOfNewFiles();
   }
 }
@@ -50,8 +51,9 @@ void awardLevel() {
   const auto& open = tLevels.items;
   if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return;
   messageBox("Congratulations!  You have been awarded a new level for Arcade mode!");
-  save(levelsFile, [] { addOpenLevel({rewardLevelName, rewardLevelFile}); });
+  addOpenLevel({rewardLevelName, rewardLevelFile});
   addItem(tLevels, rewardLevelName, rewardLevelFile);
+  save(levelsFile);
   tellOfNewFiles();
 }
 

@@ -9,12 +9,13 @@ void Image6_Click();  // the title page's button, to this page
 // Fills `modes`, tMode and scoreModes, and selects the first item of scoreModes.
 void popModes();
 
-// A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels
-// from "\init\6537", which is made anew if it is damaged.
+// A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels;
+// where that fails the player is told, and the list shows those that are known.
 void tMode_Click();
 
 // Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
-// tells the player, and adds it to the file and to tLevels.
+// tells the player, and adds it to tLevels and to the file. It stays open also if it can't be
+// stored.
 void awardLevel();
 
 }  // namespace glonks

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/errors.h"
 #include "base/text.h"
 #include "game/loading/levels.h"
 #include "game/loading/newgame.h"
@@ -17,9 +18,11 @@
 #include "present/screen/fconsole.h"
 #include "shell/menucontrols.h"
 #include "shell/newgamepage.h"
+#include "shell/saving.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/scrambledfiles.h"
 
 namespace glonks {
 namespace {
@@ -38,9 +41,8 @@ bool gameChosen(const Mode& mode) {
   return false;
 }
 
-void loadGame() {
-  initDX();
-  const Surface loading = loadLoadingPicture();
+// While the lines stand, what they name is done.
+void loadGame(const Surface& loading) {
   showLoadingLine(loading, "Initializing variables...");
   initVariables();
   showLoadingLine(loading, "Initializing pieces...");
@@ -51,18 +53,35 @@ void loadGame() {
   showLoadingLine(loading, "Playing...");
 }
 
-std::string levelPath() {
+std::string pathOfLevel() {
   const i32 file = gameMode.levelFile != 0
                        ? gameMode.levelFile
                        : tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
   return "\\levels\\" + plainNumber(file);
 }
 
-void playGame() {
+// Whether the level's file can be read; the player is told if not. Looked at before the screen is
+// taken.
+bool levelReadable() {
+  constexpr i16 levelChannel = 4;
+  return succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
+}
+
+// Gives the screen back if the level turns out to be damaged.
+void loadChosenLevel() {
   // Item keys look for this name.
   modeName = gameMode.itemKeys == True ? "Freestyle" : gameMode.modeTitle;
   if (gameMode.hasGoals == True) minuteStart = gameTick();
-  loadLevel(levelPath(), gameMode.hasGoals);
+  try {
+    loadLevel(pathOfLevel(), gameMode.hasGoals);
+  } catch (const RuntimeError&) {
+    gameOver = True;  // so that fConsole can be closed
+    destroy();
+    throw;
+  }
+}
+
+void playGame() {
   gameMode.loop();
   destroy();
   if (gameMode.hasGoals == True && levelWon == True) awardLevel();
@@ -75,11 +94,15 @@ void main_BtnRun_Click() {
   const Mode chosen = modeTitled(textOf(tMode));
   if (!gameChosen(chosen)) return;
   gameMode = chosen;
+  if (!levelReadable()) return;
   hideForm(fMain);
   gameOver = False;  // so that fConsole can't be closed while the game is being loaded
   fConsole_Show(readKeys, pauseByCloseBox);
-  loadGame();
-  playGame();
+  owe(storeFile);  // from now on credits and goods may change
+  initDX();
+  const Surface loading = loadLoadingPicture();  // lives as long as this handler
+  loadGame(loading);
+  if (succeeds(loadChosenLevel)) playGame();
   saveStore();
   showForm(fMain);
 }

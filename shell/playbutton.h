@@ -4,7 +4,7 @@ namespace glonks {
 
 // The Play button: runs a whole game of the mode chosen on page 0, from taking the screen to
 // storing the results, and returns when it has ended. Without a choice it only says what is
-// missing.
+// missing, and so it does for a level whose file can't be read or is damaged.
 void main_BtnRun_Click();
 
 }  // namespace glonks

@@ -1,15 +1,34 @@
 #pragma once
 
+#include <functional>
+
 #include "storage/playerfiles.h"
 
-// How the menu stores what the player owns, and what it tells of that.
+// How the menu stores what the player owns, and what it tells the player about that. A write that
+// fails ends nothing: what couldn't be stored stays in memory, its file is owed, and later saves
+// try again.
 namespace glonks {
 
-// Runs `write`, which replaces a player's file. When that fails, the player is told and may have it
-// tried again; if not, the failure comes out and the old file stands.
-void save(const PlayersFile& file, void (*write)());
+// From now on a file isn't up to date.
+void owe(const PlayersFile& file);
+bool isOwed(const PlayersFile& file);
 
-// Tells the player, in one message, of all files that were made anew since the last call.
+// Stores one file. When that fails, the player is told and may have it tried again; if not, a line
+// goes to the log and the file stays owed.
+void save(const PlayersFile& file);
+
+// The same for all files that are owed, but for those that the player has given up since the last
+// call.
+void saveAll();
+
+// Stores all files that are owed and asks nothing; a failure goes to the log.
+void saveSilently();
+
+// Tells the player, in one message, about all files that were replaced since the last call.
 void tellOfNewFiles();
+
+// Runs an action that may fail: then a line goes to the log, the player is told, and it returns
+// false.
+bool succeeds(const std::function<void()>& action);
 
 }  // namespace glonks

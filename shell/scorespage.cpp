@@ -19,6 +19,12 @@ std::string rowOf(i32 place, const HighScore& entry) {
   return number + ".    " + plainNumber(entry.points) + "   " + "\t" + entry.playerName;
 }
 
+void listScores() {
+  clearItems(scores_freestyle);
+  i32 place = 0;
+  for (const HighScore& entry : highScores) addItem(scores_freestyle, rowOf(++place, entry));
+}
+
 }  // namespace
 
 void mScores_Click() { showPage(scoresPage); }
@@ -26,13 +32,11 @@ void mScores_Click() { showPage(scoresPage); }
 void scoreModes_Click() { scores_freestyle.visible = flagOf(textOf(scoreModes) == "Freestyle"); }
 
 void loadScores() {
-  clearItems(scores_freestyle);
   readScores();
-  i32 place = 0;
-  for (const HighScore& entry : highScores) addItem(scores_freestyle, rowOf(++place, entry));
+  listScores();
 }
 
-void saveScores() { save(scoresFile, writeScores); }
+void saveScores() { save(scoresFile); }
 
 void enterHighScore() {
   const i16 place = placeOfScore(score);
@@ -42,7 +46,8 @@ void enterHighScore() {
       longestStoredText);
   insertScore(place, {name, score});
   saveScores();
-  loadScores();
+  if (!isOwed(scoresFile)) succeeds(readScores);
+  listScores();
   mScores_Click();
   setText(scoreModes, "Freestyle");
 }

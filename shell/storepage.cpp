@@ -32,7 +32,10 @@ void loadStore() {
   setValue(HScroll2, musicVolume);
 }
 
-void saveStore() { save(storeFile, writeStore); }
+void saveStore() {
+  owe(storeFile);
+  saveAll();
+}
 
 void showStock() {
   showBank();

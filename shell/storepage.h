@@ -27,10 +27,11 @@ inline constexpr std::array<StoreItem, storeRows> storeItems = {{
 
 void mStore_Click();  // shows the page, with fresh numbers
 
-// Reads the store's file and sets the volume's scroll bar.
+// Reads the store's file and sets the volume's scroll bar. Raises as readStore does.
 void loadStore();
 
-// Stores bank, goods and settings. Raises fileAccess if the player gives up a write that fails.
+// Stores bank, goods and settings, and whatever else an earlier save couldn't store. A failure
+// raises nothing (see shell/saving.h).
 void saveStore();
 
 // Sets the labels from bank and itemStock.

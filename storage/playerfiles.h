@@ -1,21 +1,38 @@
 #pragma once
 
-#include <functional>
 #include <string>
+#include <vector>
 
 #include "base/types.h"
+#include "storage/files/datafiles.h"
 
 // The files in "\init\" that belong to the player. None of them is ever lost: one that is damaged
-// is put aside as "<name>.damaged", and the player is told.
+// is put aside as "<name>.damaged", what can be read of it is kept, and the player is told.
 namespace glonks {
 
+using Lines = std::vector<std::string>;
+
 struct PlayersFile {
-  const char* name;   // in "\init\"
+  const char* name;   // in "\init\" and "\first\"
   const char* holds;  // what a player would call its contents
+  const char* parts;  // and what these consist of
 };
-inline constexpr PlayersFile scoresFile{"6095", "the high scores"};
-inline constexpr PlayersFile storeFile{"6702", "the bank, the goods and the settings"};
-inline constexpr PlayersFile levelsFile{"6537", "the open Arcade levels"};
+inline constexpr PlayersFile scoresFile{scoresFileName, "the high scores", "scores"};
+inline constexpr PlayersFile storeFile{storeFileName, "the bank, the goods and the settings",
+                                       "values"};
+inline constexpr PlayersFile levelsFile{levelsFileName, "the open Arcade levels", "levels"};
+
+// What is good in the lines of a player's file.
+struct Sifted {
+  Lines lines;   // of a whole file: what is good, and for the rest what the game begins with
+  i32 kept = 0;  // parts that are good
+  i32 lost = 0;  // parts that aren't, or are missing
+};
+
+// Tells good lines from damaged ones. `first` are the lines that the game begins with; `strict` if
+// the file is known to be damaged, so that only numbers which the game could have written count as
+// good.
+using Sift = Sifted (*)(const Lines& lines, const Lines& first, bool strict);
 
 // The channel on which all of them are read.
 inline constexpr i16 playersChannel = 4;
@@ -30,17 +47,29 @@ inline constexpr i32 longestStoredText = 40;  // characters
 std::string pathOf(const PlayersFile& file);
 std::string firstContentsOf(const PlayersFile& file);
 
-// Opens the plain form of a file on playersChannel and runs `read`. If the file is missing, or
-// damaged as `read` or the opening tells by a RuntimeError, it is made anew from its first contents
-// and `read` runs again; what that raises comes out, and so does any failure to write.
-void readPlayersFile(const PlayersFile& file, const std::function<void()>& read);
+// Whether a line, or the text of a number, can have been written by a player or the game. A wrong
+// key position gives control characters (a tab doesn't count) and, in numbers, codes above ASCII.
+// With `strict` a number has to be one as a whole.
+bool isGoodText(const std::string& line);
+bool isGoodNumber(const std::string& text, bool strict);
 
-// Runs `write`, which writes plain lines on channel 4, and replaces the file by them. Raises
-// fileAccess if that fails; the old file stands then.
-void writePlayersFile(const PlayersFile& file, const std::function<void()>& write);
+// The field of a line in a place counted from 0, empty if there is none: fields are parted by
+// commas, have no blanks at their ends, and in double quotes keep their commas and lose the quotes.
+std::string fieldOf(const std::string& line, i32 place);
 
-// What the player has to be told of files that were made anew since the last call; empty if
-// nothing.
+// A number from its leading numeric part, 0 if there is none, rounded, halves to even, and brought
+// into the range from `low` to `high`.
+i32 storedNumber(const std::string& text, i32 low, i32 high);
+
+// The lines of a file. One that is missing, or that holds something damaged, is replaced by what is
+// good in it and by its first contents. Raises fileAccess for one that can't be read now, or can't
+// be put aside or replaced; nothing has changed then.
+Lines readPlayersFile(const PlayersFile& file, Sift sift);
+
+// Replaces a file by these lines. Raises fileAccess if that fails; the old file stands then.
+void writePlayersFile(const PlayersFile& file, const Lines& lines);
+
+// What the player has to be told of files that were replaced since the last call; empty if nothing.
 std::string takeNews();
 
 }  // namespace glonks

@@ -1,58 +1,60 @@
 #include "storage/progress.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "base/text.h"
-#include "storage/files/fieldreader.h"
-#include "storage/files/scrambledfiles.h"
-#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
 
 namespace glonks {
 namespace {
 
-std::vector<OpenLevel> readList() {
-  std::vector<OpenLevel> levels;
-  while (!endOfFile(playersChannel)) {
-    const std::string name = readLine(playersChannel, "level name");
-    const std::string field = "number of level \"" + name + "\"";
-    const std::string number = readLine(playersChannel, field);
-    if (!isNumber(number)) badField(playersChannel, field, "isn't a number.");
-    using Whole = std::numeric_limits<i32>;
-    levels.push_back({name, roundedField(playersChannel, field, leadingNumber(number), Whole::min(),
-                                         Whole::max())});
-  }
-  if (levels.empty()) badField(playersChannel, "level name", "is missing.");
-  return levels;
-}
-
-std::vector<std::string> linesOfLevels() {
-  std::vector<std::string> lines;
-  readPlayersFile(levelsFile, [&lines] {
-    lines.clear();
-    while (!endOfFile(playersChannel)) lines.push_back(readLine(playersChannel));
-    if (lines.empty() || lines.size() % 2 != 0) {
-      badField(playersChannel, "number of the last level", "is missing.");
+// In a damaged file a pair is found wherever a name has a number after it.
+Sifted siftLevels(const Lines& lines, const Lines& first, bool strict) {
+  Sifted sifted;
+  std::size_t skipped = 0;
+  for (std::size_t i = 0; i < lines.size();) {
+    const bool good = i + 1 < lines.size() && isGoodText(lines[i]) && isGoodText(lines[i + 1]) &&
+                      isGoodNumber(lines[i + 1], strict);
+    if (good) {
+      sifted.lines.insert(sifted.lines.end(), {lines[i], lines[i + 1]});
+      ++sifted.kept;
+    } else {
+      ++skipped;
     }
-  });
-  return lines;
+    i += good ? 2 : 1;
+  }
+  sifted.lost = static_cast<i32>((skipped + 1) / 2);
+  if (sifted.kept > 0) return sifted;
+  sifted.lost = std::max(sifted.lost, 1);
+  sifted.lines = first;
+  return sifted;
 }
 
 }  // namespace
 
-std::vector<OpenLevel> readOpenLevels() {
-  std::vector<OpenLevel> levels;
-  readPlayersFile(levelsFile, [&levels] { levels = readList(); });
-  return levels;
+void readOpenLevels() {
+  using Whole = std::numeric_limits<i32>;
+  const Lines lines = readPlayersFile(levelsFile, siftLevels);
+  openLevels.clear();
+  for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
+    openLevels.push_back({lines[i], storedNumber(lines[i + 1], Whole::min(), Whole::max())});
+  }
+  openLevels.insert(openLevels.end(), newLevels.begin(), newLevels.end());
 }
 
 void addOpenLevel(const OpenLevel& level) {
-  std::vector<std::string> lines = linesOfLevels();
-  lines.push_back(level.name);
-  lines.push_back(signedNumber(level.file) + " ");
-  writePlayersFile(levelsFile, [&lines] {
-    for (const std::string& line : lines) writeLine(ScrambledWriter::channel, line);
-  });
+  openLevels.push_back(level);
+  newLevels.push_back(level);
+}
+
+void writeOpenLevels() {
+  Lines lines = readPlayersFile(levelsFile, siftLevels);
+  for (const OpenLevel& level : newLevels) {
+    lines.insert(lines.end(), {level.name, signedNumber(level.file) + " "});
+  }
+  writePlayersFile(levelsFile, lines);
+  newLevels.clear();
 }
 
 }  // namespace glonks

@@ -5,7 +5,7 @@
 
 #include "base/types.h"
 
-// The Arcade levels that are open to the player, in "\init\6537": a line with the name and one with
+// The Arcade levels that are open to the player. Their file has a line with the name and one with
 // the number of the level's file, for each, in the order in which they were opened.
 namespace glonks {
 
@@ -14,11 +14,17 @@ struct OpenLevel {
   i32 file = 0;  // number in "\levels\"
 };
 
-// Reads the list, at least one level. A damaged file is made anew.
-std::vector<OpenLevel> readOpenLevels();
+inline std::vector<OpenLevel> openLevels;  // as last read, and those opened since
+inline std::vector<OpenLevel> newLevels;   // those that the file doesn't have yet
 
-// Adds one level to the file. Raises fileAccess if it can't be written; a damaged file is made
-// anew.
+// Reads the list, at least one level. Raises as readPlayersFile does; the list stays then.
+void readOpenLevels();
+
+// Adds one level to the list.
 void addOpenLevel(const OpenLevel& level);
+
+// Adds the new levels to the file. Raises as readPlayersFile and writePlayersFile do; they stay new
+// then.
+void writeOpenLevels();
 
 }  // namespace glonks

@@ -4,36 +4,62 @@
 #include <limits>
 
 #include "base/text.h"
-#include "storage/files/fieldreader.h"
-#include "storage/files/scrambledfiles.h"
-#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
 
 namespace glonks {
 namespace {
 
-void readTable() {
+i32 pointsOf(const std::string& line) {
   using Points = std::numeric_limits<i32>;
-  std::array<HighScore, highScoreCount> table;
-  i32 place = 0;
-  for (HighScore& entry : table) {
-    const std::string which = " of entry " + plainNumber(++place);
-    entry.points = readWithin(playersChannel, "points" + which, Points::min(), Points::max());
-    entry.playerName = storableText(readField(playersChannel, "playerName" + which));
+  return storedNumber(fieldOf(line, 0), Points::min(), Points::max());
+}
+
+// Puts beginners' scores, the lowest first, in the place of those that are lost.
+void fillTable(Lines& table, const Lines& first) {
+  for (auto line = first.rbegin(); line != first.rend() && table.size() < highScoreCount; ++line) {
+    if (std::find(table.begin(), table.end(), *line) != table.end()) continue;
+    const auto place = std::find_if(table.begin(), table.end(), [&](const std::string& other) {
+      return pointsOf(other) < pointsOf(*line);
+    });
+    table.insert(place, *line);
   }
-  highScores = table;
+  table.resize(highScoreCount, "0,");
+}
+
+bool isGood(const std::string& line, bool strict) {
+  const std::size_t comma = line.find(',');
+  return comma != std::string::npos && isGoodText(line) &&
+         isGoodNumber(line.substr(0, comma), strict);
+}
+
+// In a damaged file a line that is too many may stand among the others.
+Sifted siftScores(const Lines& lines, const Lines& first, bool strict) {
+  Sifted sifted;
+  const std::size_t end = strict ? lines.size() : std::min(lines.size(), highScores.size());
+  for (std::size_t i = 0; i < end && sifted.lines.size() < highScores.size(); ++i) {
+    if (isGood(lines[i], strict)) sifted.lines.push_back(lines[i]);
+  }
+  sifted.kept = static_cast<i32>(sifted.lines.size());
+  sifted.lost = highScoreCount - sifted.kept;
+  fillTable(sifted.lines, first);
+  return sifted;
 }
 
 }  // namespace
 
-void readScores() { readPlayersFile(scoresFile, readTable); }
+void readScores() {
+  const Lines lines = readPlayersFile(scoresFile, siftScores);
+  for (std::size_t i = 0; i < highScores.size(); ++i) {
+    highScores[i] = {storableText(fieldOf(lines[i], 1)), pointsOf(lines[i])};
+  }
+}
 
 void writeScores() {
-  writePlayersFile(scoresFile, [] {
-    for (const HighScore& entry : highScores) {
-      writeLine(ScrambledWriter::channel, plainNumber(entry.points) + "," + entry.playerName);
-    }
-  });
+  Lines lines;
+  for (const HighScore& entry : highScores) {
+    lines.push_back(plainNumber(entry.points) + "," + entry.playerName);
+  }
+  writePlayersFile(scoresFile, lines);
 }
 
 i16 placeOfScore(i32 points) {

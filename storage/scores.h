@@ -5,8 +5,8 @@
 
 #include "base/types.h"
 
-// The table of the ten best scores of Freestyle, in "\init\6095". The file has a line for each
-// entry, best first: the points, a comma and the name.
+// The table of the ten best scores of Freestyle. Its file has a line for each entry, best first:
+// the points, a comma and the name.
 namespace glonks {
 
 struct HighScore {
@@ -17,7 +17,7 @@ struct HighScore {
 inline constexpr i16 highScoreCount = 10;
 inline std::array<HighScore, highScoreCount> highScores;  // the best first
 
-// Reads the table. A damaged file is made anew.
+// Reads the table. Raises as readPlayersFile does; the table stays then.
 void readScores();
 
 // Writes the table. Raises fileAccess if it can't be written.

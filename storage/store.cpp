@@ -1,70 +1,77 @@
 #include "storage/store.h"
 
+#include <algorithm>
 #include <limits>
 #include <string>
 
 #include "base/text.h"
 #include "game/model/model.h"
-#include "storage/files/fieldreader.h"
-#include "storage/files/scrambledfiles.h"
-#include "storage/files/textchannels.h"
 #include "storage/playerfiles.h"
 
 namespace glonks {
 namespace {
 
-// An oddity that is kept: the Detonators stand behind the others, not in the order of the slots.
+// Oddity 26: the Detonators stand after the others, not in the order of the slots.
 constexpr i16 storedOrder[itemKinds] = {
     slammerItem, bombItem, bowlingBallItem, bonusSongItem, midnightBowlingItem, detonatorItem};
 
-i16 readCount(const std::string& fieldName) {
-  using Count = std::numeric_limits<i16>;
-  return static_cast<i16>(readWithin(playersChannel, fieldName, 0, Count::max()));
-}
+constexpr std::size_t valueCount = 13;
+constexpr std::size_t themeLine = 11;
 
-// Nothing is changed before all has been read.
-void readValues() {
-  const i16 storedBank = readCount("bank");
-  auto stock = itemStock;
-  for (const i16 item : storedOrder) {
-    stock[static_cast<std::size_t>(item)] = readCount("itemStock " + plainNumber(item));
+Sifted siftValues(const Lines& lines, const Lines& first, bool strict) {
+  Sifted sifted;
+  sifted.lines = first;
+  sifted.lines.resize(valueCount);
+  for (std::size_t i = 0; i < std::min(lines.size(), valueCount); ++i) {
+    if (!(i == themeLine ? isGoodText(lines[i]) : isGoodNumber(lines[i], strict))) continue;
+    sifted.lines[i] = lines[i];
+    ++sifted.kept;
   }
-  const Flag flags[] = {readFlag(playersChannel, "storeFlagA"),
-                        readFlag(playersChannel, "storeFlagB"),
-                        readFlag(playersChannel, "storeFlagC")};
-  const i32 notes =
-      readWithin(playersChannel, "notesCollected", 0, std::numeric_limits<i32>::max());
-  const std::string theme = storableText(readField(playersChannel, "themeName"));
-  const i32 volume = readWithin(playersChannel, "musicVolume", 0, loudest);
-  bank = storedBank;
-  itemStock = stock;
-  storeFlagA = flags[0];
-  storeFlagB = flags[1];
-  storeFlagC = flags[2];
-  notesCollected = notes;
-  themeName = theme;
-  musicVolume = static_cast<i16>(volume);
+  sifted.lost = static_cast<i32>(valueCount) - sifted.kept;
+  return sifted;
 }
 
-void writeFlag(Flag flag) { writeLine(ScrambledWriter::channel, flag != False ? "1" : "0"); }
+// The values of the file, taken one after the other.
+class Values {
+ public:
+  explicit Values(const Lines& lines) : lines_(lines) {}
+  std::string text() { return fieldOf(lines_[next_++], 0); }
+  Flag flag() { return flagOf(leadingNumber(text()) != 0); }
+  template <typename Whole>
+  Whole from0(Whole high = std::numeric_limits<Whole>::max()) {
+    return static_cast<Whole>(storedNumber(text(), 0, high));
+  }
 
-void writeNumber(i32 number) { writeLine(ScrambledWriter::channel, plainNumber(number)); }
+ private:
+  const Lines& lines_;
+  std::size_t next_ = 0;
+};
+
+std::string flagText(Flag flag) { return flag != False ? "1" : "0"; }
 
 }  // namespace
 
-void readStore() { readPlayersFile(storeFile, readValues); }
+void readStore() {
+  const Lines lines = readPlayersFile(storeFile, siftValues);
+  Values values(lines);
+  bank = values.from0<i16>();
+  for (const i16 item : storedOrder) {
+    itemStock[static_cast<std::size_t>(item)] = values.from0<i16>();
+  }
+  for (Flag* flag : {&storeFlagA, &storeFlagB, &storeFlagC}) *flag = values.flag();
+  notesCollected = values.from0<i32>();
+  themeName = storableText(values.text());
+  musicVolume = values.from0<i16>(loudest);
+}
 
 void writeStore() {
-  writePlayersFile(storeFile, [] {
-    writeNumber(bank);
-    for (const i16 item : storedOrder) writeNumber(itemStock[static_cast<std::size_t>(item)]);
-    writeFlag(storeFlagA);
-    writeFlag(storeFlagB);
-    writeFlag(storeFlagC);
-    writeNumber(notesCollected);
-    writeLine(ScrambledWriter::channel, themeName);
-    writeNumber(musicVolume);
-  });
+  Lines lines = {plainNumber(bank)};
+  for (const i16 item : storedOrder) {
+    lines.push_back(plainNumber(itemStock[static_cast<std::size_t>(item)]));
+  }
+  lines.insert(lines.end(), {flagText(storeFlagA), flagText(storeFlagB), flagText(storeFlagC),
+                             plainNumber(notesCollected), themeName, plainNumber(musicVolume)});
+  writePlayersFile(storeFile, lines);
 }
 
 }  // namespace glonks

@@ -11,8 +11,8 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "game/loading/levels.h"
-#include "game/loading/pieces.h"
 #include "game/model/model.h"
+#include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/textchannels.h"
 #include "tools/levelreach.h"
@@ -26,7 +26,7 @@ constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
 constexpr std::size_t longestTitle = 636;  // what the ticker takes
 constexpr double minute = 60'000;          // ms
-const std::string freestyleFile = "2193";
+const std::string freestyleFile = std::to_string(freestyleLevel);
 
 struct Field {
   std::string name;
@@ -75,7 +75,7 @@ class LevelCheck {
       files.insert(entry.path());
     }
     for (const fs::path& file : files) readPlain(file, &LevelCheck::checkLevel);
-    readPlain(init_ / "6537", &LevelCheck::checkOpenLevels);
+    readPlain(init_ / levelsFileName, &LevelCheck::checkOpenLevels);
     for (const auto& [name, level] : levels_) checkLinks(name, level);
     return faults_;
   }

@@ -2,6 +2,7 @@
 
 #include "game/model/model.h"
 #include "present/screen/keyedpicture.h"
+#include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"

@@ -1,6 +1,5 @@
 #include "storage/files/fieldreader.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/errors.h"
@@ -56,11 +55,6 @@ i16 readWholeI16(i16 channel, const std::string& fieldName) {
 
 i32 readWholeI32(i16 channel, const std::string& fieldName) {
   return fitting<i32>(channel, fieldName, std::floor(numberField(channel, fieldName)));
-}
-
-i32 readWithin(i16 channel, const std::string& fieldName, i32 low, i32 high) {
-  const double rounded = roundHalfEven(numberField(channel, fieldName));
-  return static_cast<i32>(std::clamp<double>(rounded, low, high));
 }
 
 void badField(i16 channel, const std::string& fieldName, const std::string& trouble) {

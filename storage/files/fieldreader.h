@@ -20,10 +20,6 @@ Flag readFlag(i16 channel, const std::string& fieldName);
 i16 readWholeI16(i16 channel, const std::string& fieldName);
 i32 readWholeI32(i16 channel, const std::string& fieldName);
 
-// A field that has to be a number as a whole, rounded and brought into the range from `low` to
-// `high`; any other text raises typeMismatch.
-i32 readWithin(i16 channel, const std::string& fieldName, i32 low, i32 high);
-
 // The same conversion as readI16 and readI32 for a text that has been read already: `number` is
 // rounded, and raises overflow if it leaves the range from `low` to `high`.
 i32 roundedField(i16 channel, const std::string& fieldName, double number, i32 low, i32 high);

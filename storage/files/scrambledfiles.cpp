@@ -32,13 +32,8 @@ std::string place;
   throw RuntimeError(ErrorNumber::badFile, place + " " + trouble);
 }
 
-// The code of one group. An empty group counts as 0.
-int groupCode(const std::string& group) {
-  if (group.empty()) return 0;
-  const bool digits = group.find_first_not_of("0123456789") == std::string::npos;
-  const double number = digits ? leadingNumber(group) : codes;
-  if (number >= codes) failLine("holds a group that is no number from 0 to 255.");
-  return static_cast<int>(number);
+bool isDigits(const std::string& text) {
+  return text.find_first_not_of("0123456789") == std::string::npos;
 }
 
 // Writes each line of the source, changed by `change`, to the target.
@@ -48,14 +43,14 @@ void changeFile(const std::string& source, const std::string& target, ChannelMod
   resetKeys();
   // Errors name the file that the player knows.
   const std::string& shown = source == tempPath ? target : source;
-  openChannel(sourceChannel, source, ChannelMode::input);
+  openChannel(sourceChannel, source, ChannelMode::input, shown);
   const ChannelGuard sourceGuard(sourceChannel);
   openChannel(targetChannel, target, targetMode);
   const ChannelGuard targetGuard(targetChannel);
   for (i32 number = 1; !endOfFile(sourceChannel); ++number) {
     const std::string line = readLine(sourceChannel);
     place = "The file \"" + shown + "\" is damaged: line " + plainNumber(number);
-    const std::string changed = line.size() > longestLine ? line : change(line);
+    const std::string changed = change(line);
     if (changed.size() > longestLine) failLine("is longer than 32,767 characters.");
     writeLine(targetChannel, changed);
   }
@@ -95,6 +90,19 @@ char unscrambleChar(char c) {
   return static_cast<char>(rest < 0 ? rest + codes : rest);
 }
 
+std::vector<i16> groupsOf(const std::string& scrambled) {
+  std::vector<i16> groups;
+  std::size_t from = 0;
+  for (std::size_t end = 0; (end = scrambled.find('.', from)) != std::string::npos;) {
+    const std::string group = scrambled.substr(from, end - from);
+    const double number = isDigits(group) ? leadingNumber(group) : codes;
+    groups.push_back(number < codes ? static_cast<i16>(number) : damagedGroup);
+    from = end + 1;
+  }
+  if (!isDigits(scrambled.substr(from))) groups.push_back(damagedGroup);
+  return groups;
+}
+
 std::string scrambleLine(const std::string& text) {
   std::string scrambled;
   for (const char c : text) {
@@ -107,15 +115,10 @@ std::string scrambleLine(const std::string& text) {
 
 std::string unscrambleLine(const std::string& scrambled) {
   std::string text;
-  std::string group;
-  for (const char c : scrambled) {
-    if (c != '.') {
-      group += c;
-      continue;
-    }
-    text += unscrambleChar(static_cast<char>(groupCode(group)));
+  for (const i16 group : groupsOf(scrambled)) {
+    if (group == damagedGroup) failLine("holds a group that is no number from 0 to 255.");
+    text += unscrambleChar(static_cast<char>(group));
     advanceKeys();
-    group.clear();
   }
   return text;
 }
@@ -128,10 +131,6 @@ void scrambleFile(const std::string& plainPath, const std::string& scrambledPath
 void unscrambleFile(const std::string& scrambledPath, const std::string& plainPath) {
   changeFile(scrambledPath, plainPath, ChannelMode::output,
              [](const std::string& line) { return reverseText(unscrambleLine(line)); });
-}
-
-void copyScrambledFile(const std::string& source, const std::string& target) {
-  changeFile(source, target, ChannelMode::replace, [](const std::string& line) { return line; });
 }
 
 TempFileGuard::~TempFileGuard() {

@@ -1,16 +1,17 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/types.h"
 
-// Module mEncrypt: the scrambled form of the text data files, and the temp file through which they
-// are read and written.
+// The scrambled form of the text data files, and the temp file through which they are read and
+// written.
 //
 // A scrambled file has the lines of its plain file, each line reversed, and each character as a
-// decimal number from 0 to 255 with a point behind it. The number is the character's code plus one
-// entry of each of two key tables, modulo 256; the position in both tables moves on by one at each
-// character through the whole file.
+// decimal number from 0 to 255 followed by a point: a group. The number is the character's code
+// plus one entry of each of two key tables, modulo 256; the position in both tables moves on by one
+// at each character through the whole file.
 namespace glonks {
 
 inline constexpr i16 keyALength = 99;
@@ -27,10 +28,6 @@ inline Flag keysMade = False;
 inline constexpr i16 keySeed = 20117;
 inline constexpr i16 keyDrawArgument = 1;
 inline constexpr i16 keyScale = 211;  // the largest entry
-
-// The most characters that a line may have, plain and scrambled. A plain line of 8,191 characters
-// always fits.
-inline constexpr std::size_t longestLine = 32767;
 
 // Path of the temp file, the plain form of a scrambled file for the length of one use.
 inline const std::string tempPath = "\\temp";
@@ -52,19 +49,22 @@ void advanceKeys();
 char scrambleChar(char c);
 char unscrambleChar(char c);
 
+// The groups of a scrambled line, from 0 to 255, an empty one as 0. What follows the last point is
+// dropped if it is digits, and a damaged group otherwise.
+std::vector<i16> groupsOf(const std::string& scrambled);
+inline constexpr i16 damagedGroup = -1;  // one that is no number from 0 to 255
+
 // One line; the indices stay where its last character put them. unscrambleLine raises badFile for a
-// group that is no number from 0 to 255.
+// damaged group.
 std::string scrambleLine(const std::string& text);
 std::string unscrambleLine(const std::string& scrambled);
 
 // Whole files, on channels 24 and 25. scrambleFile puts the complete new file in the place of the
 // old one, which stands until then. Both raise fileNotFound or fileAccess for a file that can't be
-// opened, and badFile, naming file and line, for a line that is too long or damaged.
+// opened, read or written, and badFile, naming the file, for one that is damaged or too large and
+// for a line that is too long. A plain line of 8,191 characters always fits.
 void scrambleFile(const std::string& plainPath, const std::string& scrambledPath);
 void unscrambleFile(const std::string& scrambledPath, const std::string& plainPath);
-
-// The same for lines that stay as they are: a whole new `target` with the lines of `source`.
-void copyScrambledFile(const std::string& source, const std::string& target);
 
 // Deletes the temp file, if it is still there, when it goes.
 class TempFileGuard {
@@ -77,7 +77,7 @@ class TempFileGuard {
 
 // One reading of a scrambled file: the constructor unscrambles it into the temp file and opens that
 // for input on `channel`, with errors that name the scrambled file. close() closes and deletes the
-// temp file; so does the destructor, without a word, when reading has failed.
+// temp file; so does the destructor, reporting nothing, when reading has failed.
 class ScrambledReader {
  public:
   ScrambledReader(const std::string& scrambledPath, i16 channel);

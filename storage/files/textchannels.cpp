@@ -1,6 +1,7 @@
 #include "storage/files/textchannels.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -22,6 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr i16 lastChannel = 511;
+constexpr std::uintmax_t largestFile = 1U << 20U;  // bytes; the game's own have a few thousand
 
 struct Channel {
   std::FILE* file = nullptr;
@@ -53,7 +55,7 @@ Channel& opened(i16 channel, bool forInput) {
 int rawByte(Channel& channel) {
   const int byte = std::fgetc(channel.file);
   if (byte == EOF && std::ferror(channel.file) != 0) {
-    fail(ErrorNumber::fileNotFound, channel.name, "can't be read" + because(errno));
+    fail(ErrorNumber::fileAccess, channel.name, "can't be read" + because(errno));
   }
   return byte;
 }
@@ -81,8 +83,17 @@ void finishLineEnd(Channel& channel, int byte) {
   fail(ErrorNumber::inputPastEnd, channel.name, "is too short: " + what + " is missing.");
 }
 
+[[noreturn]] void failLong(const Channel& channel, i32 line) {
+  fail(ErrorNumber::badFile, channel.name,
+       "is damaged: line " + std::to_string(line) + " is longer than 32,767 characters.");
+}
+
 bool isLineEnd(int byte) { return byte == '\n' || byte == '\r'; }
-bool isBlank(int byte) { return byte == ' ' || byte == '\t'; }
+
+// Takes a byte into a line or field. What is longer than one may be isn't kept.
+void take(std::string& text, int byte) {
+  if (text.size() <= longestLine) text += static_cast<char>(byte);
+}
 
 bool flushToDisk(std::FILE* file) {
 #ifdef _WIN32
@@ -100,6 +111,29 @@ void flushFolder([[maybe_unused]] const fs::path& folder) {
   fsync(handle);
   close(handle);
 #endif
+}
+
+// Raises for a file that can't be read to its end: a device may have none, and opening a pipe waits
+// for whoever writes into it.
+void checkReadable(const fs::path& place, const std::string& name) {
+  std::error_code ignored;  // what hinders the look hinders the opening too
+  if (!fs::exists(place, ignored)) return;
+  if (!isRegularFile(place)) {
+    fail(ErrorNumber::fileAccess, name, "can't be opened (it is no regular file).");
+  }
+  const std::uintmax_t size = fs::file_size(place, ignored);
+  if (!ignored && size > largestFile) {
+    fail(ErrorNumber::badFile, name, "is damaged: it is larger than 1 MB.");
+  }
+}
+
+// The same for writing, where a device is as good as a file.
+void checkWritable(const fs::path& place, const std::string& name) {
+  std::error_code ignored;
+  const fs::file_type type = fs::status(place, ignored).type();
+  if (type == fs::file_type::directory || type == fs::file_type::fifo) {
+    fail(ErrorNumber::fileAccess, name, "can't be written (it is no regular file).");
+  }
 }
 
 }  // namespace
@@ -121,13 +155,12 @@ void openChannel(i16 channel, const std::string& path, ChannelMode mode,
     place = opening.beside;
   }
   const bool reads = mode == ChannelMode::input;
-  std::error_code ignored;  // what hinders the look hinders the opening too
-  const bool folder = fs::is_directory(place, ignored);  // some systems open one for input
-  opening.file = folder ? nullptr : std::fopen(place.string().c_str(), reads ? "rb" : "wb");
+  reads ? checkReadable(place, opening.name) : checkWritable(place, opening.name);
+  opening.file = std::fopen(place.string().c_str(), reads ? "rb" : "wb");
   if (opening.file == nullptr) {
-    const std::string reason = folder ? " (it is a folder)." : because(errno);
-    if (reads) fail(ErrorNumber::fileNotFound, opening.name, "can't be opened" + reason);
-    fail(ErrorNumber::fileAccess, opening.name, "can't be written" + reason);
+    const bool missing = reads && errno == ENOENT;
+    fail(missing ? ErrorNumber::fileNotFound : ErrorNumber::fileAccess, opening.name,
+         (reads ? "can't be opened" : "can't be written") + because(errno));
   }
   channels[channel] = opening;
 }
@@ -152,31 +185,34 @@ i32 channelLine(i16 channel) { return opened(channel, true).line; }
 
 std::string readLine(i16 channel, const std::string& fieldName) {
   Channel& from = opened(channel, true);
+  const i32 number = from.line;
   int byte = nextByte(from);
   if (byte == EOF) failShort(from, fieldName);
   std::string line;
-  for (; byte != EOF && !isLineEnd(byte); byte = nextByte(from)) line += static_cast<char>(byte);
+  for (; byte != EOF && !isLineEnd(byte); byte = nextByte(from)) take(line, byte);
   finishLineEnd(from, byte);
+  if (line.size() > longestLine) failLong(from, number);
   return line;
 }
 
 std::string readField(i16 channel, const std::string& fieldName) {
   Channel& from = opened(channel, true);
+  const i32 number = from.line;
   int byte = nextByte(from);
   if (byte == EOF) failShort(from, fieldName);
-  while (isBlank(byte)) byte = nextByte(from);
+  while (byte == ' ') byte = nextByte(from);
   std::string field;
   const auto ends = [](int c) { return c == EOF || c == ',' || isLineEnd(c); };
   if (byte == '"') {
     for (byte = nextByte(from); byte != EOF && byte != '"'; byte = nextByte(from)) {
-      field += static_cast<char>(byte);
+      take(field, byte);
     }
     while (!ends(byte)) byte = nextByte(from);
   } else {
-    for (; !ends(byte); byte = nextByte(from)) field += static_cast<char>(byte);
-    while (!field.empty() && isBlank(field.back())) field.pop_back();
+    for (; !ends(byte); byte = nextByte(from)) take(field, byte);
   }
   finishLineEnd(from, byte);
+  if (field.size() > longestLine) failLong(from, number);
   return field;
 }
 

@@ -8,15 +8,20 @@
 // CR LF. Every failure raises a RuntimeError that names the file.
 namespace glonks {
 
+// The most characters that a line or field may have.
+inline constexpr std::size_t longestLine = 32767;
+
 enum class ChannelMode {
   input,   // reads an existing file
-  output,  // writes a file anew at once
+  output,  // writes a new file, at once in the place of the old one
   replace  // writes beside the file, and puts the complete, flushed new one in its place on
            // closing; until then, and if anything fails, the old file stands
 };
 
 // Opens `path` (a game path, see nativePath) on `channel`, 1 to 511, which must be free. Errors
-// name the file as `shownAs`, or as `path` if that is empty. Raises fileNotFound or fileAccess.
+// name the file as `shownAs`, or as `path` if that is empty. Raises fileNotFound if there is no
+// file to read, badFile if it is larger than 1 MB, and fileAccess if it can't be opened now or is
+// no regular file; devices may be written to.
 void openChannel(i16 channel, const std::string& path, ChannelMode mode,
                  const std::string& shownAs = "");
 
@@ -34,12 +39,12 @@ bool endOfFile(i16 channel);
 i32 channelLine(i16 channel);
 
 // The rest of the current line, without its end. Raises inputPastEnd at the end of the file, naming
-// what should have stood there as `fieldName`, if it has a name.
+// what should have stood there as `fieldName`, if it has a name; badFile for a line that is too
+// long, with the channel at the line after it; and fileAccess for a file that can't be read on.
 std::string readLine(i16 channel, const std::string& fieldName = "");
 
-// The next field: it ends at a comma or the end of the line, blanks around it are skipped, and in
-// double quotes it keeps its commas and loses the quotes. Raises inputPastEnd at the end of the
-// file, naming the field as `fieldName`.
+// The next field: it ends at a comma or the end of the line, spaces before it are skipped, and in
+// double quotes it keeps its commas and loses the quotes. Raises as readLine does.
 std::string readField(i16 channel, const std::string& fieldName);
 
 // Writes `text` and a line end.

@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <functional>
+#include <vector>
 
 #include "game/model/model.h"
 #include "storage/files/scrambledfiles.h"
@@ -17,6 +18,8 @@
 
 namespace glonks {
 namespace {
+
+using Texts = std::vector<std::string>;
 
 // Runs `action` in a process of its own and kills that at its n-th stop before or after a system
 // call. True if it has come to its end by itself.
@@ -40,70 +43,68 @@ bool finishesWithin(int stops, const std::function<void()>& action) {
   return false;
 }
 
-struct Save {
-  const PlayersFile& file;
-  void (*change)();
-  void (*save)();
-  void (*load)();
+void loadAll() {
+  readScores();
+  readStore();
+  readOpenLevels();
+}
+
+void changeAndSaveAll() {
+  highScores[3] = {"Newcomer", 14000};
+  bank = 1234;
+  addOpenLevel({"Reward", 3102});
+  writeScores();
+  writeStore();
+  writeOpenLevels();
+}
+
+class CrashTest : public TempFolder {
+ protected:
+  static Texts files() {
+    Texts bytes;
+    for (const std::string& path : paths) bytes.push_back(bytesOf(path));
+    return bytes;
+  }
+  static void put(const Texts& bytes) {
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+      std::filesystem::remove(nativePath(paths[i]));
+      putBytes(paths[i], bytes[i]);
+    }
+  }
+  inline static const Texts paths = {pathOf(scoresFile), pathOf(storeFile), pathOf(levelsFile)};
 };
 
-const Save saves[] = {
-    {scoresFile,
-     [] {
-       highScores[3] = {"Newcomer", 14000};
-     },
-     writeScores, readScores},
-    {storeFile, [] { bank = 1234; }, writeStore, readStore},
-    {levelsFile, [] {},
-     [] {
-       addOpenLevel({"Reward", 3102});
-     },
-     [] { readOpenLevels(); }},
-};
-
-using CrashTest = TempFolder;
-
-// Killed at every step of a save, the file is the old one or the new one, and neither what is left
-// lying nor the next start minds.
+// Killed at every step of the saves, each file is the old one or the new one, and neither what is
+// left lying nor the next start minds.
 TEST_F(CrashTest, EveryFileIsTheOldOrTheNewOne) {
   fake::useGenerator();
   makeKeys(keySeed, keyDrawArgument, keyScale);
   std::string levels;  // many, so that their file takes more than one write
-  for (int level = 0; level < 400; ++level) levels += "A level of Arcade\r\n 3101 \r\n";
+  for (int level = 0; level < 200; ++level) levels += "A level of Arcade\r\n 3101 \r\n";
   putBytes("\\plain", levels);
   scrambleFile("\\plain", pathOf(levelsFile));
-  readScores();
-  readStore();
-  int allKills = 0;
-  for (const Save& save : saves) {
-    const std::string path = pathOf(save.file);
-    const std::string before = bytesOf(path);
-    save.change();
-    finishesWithin(1 << 20, save.save);
-    const std::string after = bytesOf(path);
-    ASSERT_NE(before, after);
-    int kills = 0;
-    int old = 0;
-    for (bool finished = false; !finished; ++kills) {
-      std::filesystem::remove(nativePath(path));
-      putBytes(path, before);
-      finished = finishesWithin(kills, save.save);
-      const std::string left = bytesOf(path);
-      ASSERT_TRUE(left == before || left == after) << path << " after stop " << kills;
-      if (left == before) ++old;
-      save.load();
-      EXPECT_EQ(bytesOf(path), left) << "not taken for damaged";
-      if (!finished && kills % 8 == 0) {
-        EXPECT_TRUE(finishesWithin(1 << 20, save.save));
-        EXPECT_TRUE(exists(path) && !exists(path + ".new") && !exists(tempPath));
-      }
-      save.change();
+  loadAll();
+  const Texts before = files();
+  finishesWithin(1 << 20, changeAndSaveAll);
+  const Texts after = files();
+  int old[3] = {};
+  int kills = 0;
+  for (bool finished = false; !finished; ++kills) {
+    put(before);
+    finished = finishesWithin(kills, changeAndSaveAll);
+    const Texts left = files();
+    for (std::size_t i = 0; i < left.size(); ++i) {
+      ASSERT_TRUE(left[i] == before[i] || left[i] == after[i]) << paths[i] << kills;
+      if (left[i] == before[i]) ++old[i];
     }
-    std::cout << path << ": killed " << kills - 1 << " times, " << old << " times the old file\n";
-    EXPECT_TRUE(old > 0 && old < kills - 1);
-    allKills += kills - 1;
+    loadAll();
+    EXPECT_EQ(files(), left) << "not taken for damaged";
+    if (finished || kills % 8 != 0) continue;
+    EXPECT_TRUE(finishesWithin(1 << 20, changeAndSaveAll) && !exists(tempPath));
+    for (const std::string& path : paths) EXPECT_TRUE(exists(path) && !exists(path + ".new"));
   }
-  EXPECT_GT(allKills, 200);
+  EXPECT_TRUE(0 < old[0] && old[0] < old[1] && old[1] < old[2] && old[2] < kills - 1);
+  EXPECT_GT(kills, 200);
 }
 
 }  // namespace

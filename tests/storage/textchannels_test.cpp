@@ -1,5 +1,8 @@
 #include "storage/files/textchannels.h"
 
+#include <sys/stat.h>
+
+#include <map>
 #include <vector>
 
 #include "storage/files/fieldreader.h"
@@ -32,7 +35,7 @@ TEST_F(TextChannels, LinesEndInThreeWaysAndFieldsAtCommasToo) {
   EXPECT_EQ(readAll("a\r\r\n\rb\n\nc\r", readLine), (Texts{"a", "", "", "b", "", "c"}));
   EXPECT_EQ(readAll(std::string("\0\x1A\xFF,\"", 5), readLine), (Texts{{"\0\x1A\xFF,\"", 5}}));
   EXPECT_EQ(readAll("1,2\r\n3", readField), (Texts{"1", "2", "3"}));
-  EXPECT_EQ(readAll(" \ta b \t, c \r\n", readField), (Texts{"a b", "c"}));
+  EXPECT_EQ(readAll("  \ta b \t, c \r\n", readField), (Texts{"\ta b \t", "c "}));
   EXPECT_EQ(readAll(",,\r\n\"\"\r\n\r\nx", readField), (Texts{"", "", "", "", "", "x"}));
   EXPECT_EQ(readAll("\"a, b\" junk,a\"b", readField), (Texts{"a, b", "a\"b"}));
   EXPECT_EQ(readAll("\"two\r\nlines\",\"open, ", readField), (Texts{"two\r\nlines", "open, "}));
@@ -46,9 +49,32 @@ TEST_F(TextChannels, ErrorsNameFileAndField) {
   EXPECT_EQ(errorOf([] { readField(3, "score"); }),
             "The file \"\\init\\6095\" is too short: its field score is missing.");
   EXPECT_PRED2(holds, errorOf([] { writeLine(3, "x"); }), "Channel 3");
-  for (const std::string path : {"\\none", "\\init"}) {
-    EXPECT_PRED2(holds, errorOf([&] { openChannel(4, path, ChannelMode::input); }),
-                 "\"" + path + "\" can't be opened");
+}
+
+TEST_F(TextChannels, OnlyRegularFilesOfBoundedSizeAreRead) {
+  fs::create_symlink("/dev/zero", folder / "device");
+  mkfifo((folder / "pipe").c_str(), 0600);
+  putBytes("\\large", "");
+  fs::resize_file(folder / "large", 1 << 21);
+  for (const auto& [path, trouble] :
+       std::map<std::string, std::string>{{"\\none", "can't be opened (No such file"},
+                                          {"\\init", "can't be opened (it is no regular file)."},
+                                          {"\\device", "can't be opened (it is no regular file)."},
+                                          {"\\pipe", "can't be opened (it is no regular file)."},
+                                          {"\\large", "is damaged: it is larger than 1 MB."}}) {
+    const std::string told = "The file \"" + path + "\" " + trouble;
+    EXPECT_PRED2(holds, errorOf([&] { openChannel(4, path, ChannelMode::input); }), told);
+  }
+  const std::string most(32767, 'x');
+  for (const auto read : {&readLine, &readField}) {
+    EXPECT_EQ(readAll(most + "\nend", read), (Texts{most, "end"}));
+    putBytes("\\file", "1\n" + most + "x\nend");
+    openChannel(3, "\\file", ChannelMode::input);
+    EXPECT_EQ(read(3, ""), "1");
+    EXPECT_EQ(errorOf([&] { read(3, ""); }),
+              "The file \"\\file\" is damaged: line 2 is longer than 32,767 characters.");
+    EXPECT_EQ(read(3, ""), "end");
+    closeChannel(3);
   }
 }
 
@@ -113,13 +139,13 @@ TEST_F(Log, ARunToTheByte) {
 }
 
 TEST_F(Log, TheProgramRunsOnWithoutALog) {
-  fs::create_directory_symlink(folder, folder / "log.txt");
-  for (const char* place : {"log.txt is a folder", "the disk is full"}) {
+  mkfifo((folder / "pipe").c_str(), 0600);
+  for (const fs::path& place : {folder, folder / "pipe", fs::path("/dev/full")}) {
+    fs::remove(folder / "log.txt");
+    fs::create_symlink(place, folder / "log.txt");
     logEnabled = True;
     openLog();
     EXPECT_TRUE(logEnabled == False && !isChannelOpen(logFileNo)) << place;
-    fs::remove(folder / "log.txt");
-    fs::create_symlink("/dev/full", folder / "log.txt");
   }
 }
 
