@@ -1,0 +1,205 @@
+#include "game/modes.h"
+#include "present/effectdrawing.h"
+#include "present/effects/applause.h"
+#include "present/effects/effects.h"
+#include "present/effects/ticker.h"
+#include "present/fielddrawing.h"
+#include "present/frogparade.h"
+#include "present/goaldisplay.h"
+#include "present/itemdisplay.h"
+#include "present/loadingscreen.h"
+#include "present/tickerdrawing.h"
+#include "tests/engine/enginetest.h"
+
+namespace glonks {
+
+class DrawingTest : public EngineTest {
+ protected:
+  static Names drawnBy(void (*draw)()) {
+    draw();
+    return drawn();
+  }
+};
+
+TEST_F(DrawingTest, FieldIsDrawnFromTheBottomLeftAndWhatFallsOverIt) {
+  lay("..2/1.cT");
+  cellAt(1, 2).y = 400;  // the place comes from y alone
+  drop('B', 9, -40);
+  drop('S', 0, 600).alive = False;
+  EXPECT_EQ(drawnBy(drawField),
+            (Names{"glonk_01 90x90 at 80,600", "calculator_02 90x90 at 250,600",
+                   "glonk_02 90x90 at 250,480", "bomb 90x90 at 845,40", "slammer 90x90 at 80,680"}));
+  selectedRow = 6;
+  EXPECT_EQ(drawnBy(drawPointer), Names{"pointer 70x45 at 10,110"});
+  EXPECT_EQ(drawnBy(layPlate),
+            (Names{"fill 0 whole", "plate_01 500x350 to 853x610 at 81,80 opaque"}));
+  EXPECT_EQ(drawnBy(layFrame), Names{"frame whole"});
+  showLoadingLine(loadLoadingPicture(), "Playing...");
+  EXPECT_EQ(drawn(), (Names{"loading whole opaque", "Playing... at 10,10", "flip"}));
+}
+
+TEST_F(DrawingTest, ImpactsGrowForSixFramesAndZapsSwellForThree) {
+  const auto shown = [](i16& upper, void (*draw)()) {
+    while (upper >= 0 && fake::drawn.size() < 20) draw();
+    return drawn();
+  };
+  pushImpact(100, -20, True);
+  EXPECT_EQ(heard(), "");
+  EXPECT_EQ(
+      shown(impactsUpper, drawImpacts),
+      (Names{"explosion 300x300 to 10x10 at 285,165", "explosion 300x300 to 60x60 at 260,140",
+             "explosion 300x300 to 110x110 at 235,115", "explosion 300x300 to 160x160 at 210,90",
+             "explosion 300x300 to 210x210 at 185,65", "explosion 300x300 to 260x260 at 160,40"}));
+  pushZap(200, 300, True);
+  pushZap(200, 300, False);
+  pushImpact(0, 0, False);
+  EXPECT_EQ(shown(zapsUpper, drawZaps),
+            (Names{"zap_h 80x80 to 85x4 at 185,338", "zap_v 80x80 to 4x95 at 238,300",
+                   "zap_h 80x80 to 85x30 at 185,325", "zap_v 80x80 to 30x95 at 225,300",
+                   "zap_h 80x80 to 85x54 at 185,313", "zap_v 80x80 to 54x95 at 213,300"}));
+  EXPECT_EQ(heard(), "slam01*2 pop01");
+}
+
+TEST_F(DrawingTest, PopupPaysInTheFrameInWhichItHasClimbedOut) {
+  pushPopup(15, -155, -30);
+  pushPopup(200, -171, 99999);
+  pushPopup(0, -99, -99999);
+  EXPECT_EQ(drawnBy(drawPopups), (Names{"-30 at 205,35", " 32767 at 390,19", "-32768 at 190,91"}));
+  EXPECT_EQ((Numbers{score, scorePopupsUpper}), (Numbers{32767, 1}));
+  EXPECT_EQ(drawnBy(drawPopups), (Names{"-30 at 205,25", "-32768 at 190,81"}));
+  EXPECT_EQ((Numbers{score, scorePopupsUpper}), (Numbers{32767, 1}));
+  drawPopups();
+  EXPECT_EQ((Numbers{score, scorePopupsUpper}), (Numbers{32737, 0}));
+  score = -2147483600;
+  for (i32 i = 0; i < 6; ++i) drawPopups();
+  EXPECT_EQ((Numbers{score, scorePopupsUpper}), (Numbers{-2147483647 - 1, -1}));
+}
+
+TEST_F(DrawingTest, TickerRunsFromTheRightAndDropsItsLettersWhole) {
+  pushMessage("gone!");
+  pushMessage("aZ! 09,z");
+  EXPECT_EQ(ticker(), "AZ! 09?Z");
+  EXPECT_EQ(drawnBy(drawTicker),
+            (Names{"A 50x50 at 986,365", "Z 50x50 at 1036,365", "! 50x50 at 1086,365",
+                   "Space 50x50 at 1136,365", "0 50x50 at 1186,365", "9 50x50 at 1236,365",
+                   "Z 50x50 at 1336,365"}));
+  for (i32 i = 2; i < 71; ++i) drawTicker();
+  drawn();
+  EXPECT_EQ(drawnBy(drawTicker)[0], "A 50x50 at 6,365");
+  EXPECT_EQ(drawnBy(drawTicker)[0], "Z 50x50 at 42,365");
+  pushMessage(" I");  // the second letter comes to 0 exactly
+  for (i32 i = 0; i < 74; ++i) drawTicker();
+  EXPECT_EQ(tickerUpper, 0);
+  drawTicker();
+  EXPECT_EQ(tickerUpper, -1);
+  pushMessage(std::string(700, 'x'));
+  EXPECT_EQ((Numbers{tickerUpper, tickerLines.back().x}), (Numbers{635, 32750}));
+  pushMessage("");
+  EXPECT_EQ(tickerUpper, -1);
+}
+
+TEST_F(DrawingTest, CountersFollowTheModePicked) {
+  itemStock = {3, 0, 12, 7, 99, 99};
+  bank = 5;
+  notesCollected = 8;
+  bTypeLeft = 31;
+  const std::pair<const char*, Names> modesShown[] = {
+      {"Freestyle", {"3 x  at 300,33", "0 x  at 400,33", "12 x  at 500,33", "7 x  at 600,33"}},
+      {"Arcade", {}},
+      {"B-Type", {"31 x  at 300,33"}},
+      {"Midnight Bowling", {}}};
+  for (auto [mode, lines] : modesShown) {
+    gameMode = modeTitled(mode);
+    for (const char* kept : {"5 x  at 795,33", "8 x  at 895,33"}) lines.emplace_back(kept);
+    EXPECT_EQ(drawnBy(drawItems), lines) << mode;
+  }
+}
+
+TEST_F(DrawingTest, GoalLinesStandInTheirOrderAndMoveUp) {
+  const struct {
+    i16 land, avoid, piece;
+    i32 goal;
+    i16 limit, survive;
+    Names lines;
+  } cases[] = {
+      {-1, -1, -1, -1, -1, -1, {}},
+      {4, -1, -1, -1, 2, -1, {"Gorgons:   4 at 85,26", "Time: 2:09 at 85,41"}},
+      {-1, 3, 0, -1, -1, -1, {"Rocks:   3 at 85,26", "Bombs:   0 at 85,41"}},
+      {2, 3, -1, -1, -1, -1, {"Gorgons:   2 at 85,26", "Rocks:   3 at 85,26"}},
+      {-1, -1, 2, 500, 0, 1,
+       {"Bombs:   2 at 85,26", "Score: -7/ 500 at 85,41", "Time: 0:09 at 85,56",
+        "Time: 1:09 at 85,56"}},
+      {-1, -1, -1, 0, -1, 12, {"Score: -7/ 0 at 85,26", "Time: 12:09 at 85,41"}}};
+  score = -7;
+  minuteStart = gameTick() - 50999;
+  goalPieceName = "Bomb";
+  landName = "Gorgon";
+  avoidName = "Rock";
+  for (const auto& goals : cases) {
+    landLeft = goals.land;
+    landOn = flagOf(goals.land != -1);
+    avoidLeft = goals.avoid;
+    avoidOn = flagOf(goals.avoid != -1);
+    goalPieceCount = goals.piece;
+    goalScore = goals.goal;
+    limitMinutes = goals.limit;
+    limitOn = flagOf(goals.limit != -1);
+    surviveMinutes = goals.survive;
+    surviveOn = flagOf(goals.survive != -1);
+    EXPECT_EQ(drawnBy(drawGoals), goals.lines) << goals.land << goals.avoid << goals.goal;
+  }
+  minuteStart += 1000;
+  score = 20;
+  EXPECT_EQ(drawnBy(drawGoals), (Names{"Score:  20/ 0 at 85,26", "Time: 12:10 at 85,41"}));
+  levelOver = True;  // the time line goes, the counts stay
+  EXPECT_EQ(drawnBy(drawGoals), Names{"Score:  20/ 0 at 85,26"});
+}
+
+TEST_F(DrawingTest, ParadeSendsTwentyFrogsDownTheScreenAndStops) {
+  frogBonusUntil = gameTick() + 1;
+  const auto step = [](Draws draws) {
+    fake::draws = std::move(draws);
+    frogParade();
+    EXPECT_TRUE(fake::draws.empty());
+    return drawn();
+  };
+  const double silent = fake::drawOf(3, 200);
+  // x, picture 5, delay 5, speed 8
+  EXPECT_EQ(step({fake::drawOf(500, 2000), 0.9, 0.9, 0.9, 0}), Names{"frog05 100x100 at 500,0"});
+  EXPECT_EQ(step({fake::drawOf(800, 2000), 0.9, 0, 0, silent}),
+            (Names{"frog05 100x100 at 492,8", "frog05 100x100 at 800,0"}));
+  for (i32 i = 2; i < 20; ++i) step({0.5, 0, 0, 0, silent});
+  // A picture stays for its delay and one frame: 6 of the first, 5 of the second.
+  EXPECT_EQ((Numbers{frogs[0].picture, frogs[1].picture, frogs[19].speed, frogs[19].x}),
+            (Numbers{3, 3, 7, 993}));
+  frogs[0] = {2, 8, 0, 9, 0, 8};                 // goes on at the very edge
+  frogs[1] = {2, 7, 0, 9, 0, 8};                 // leaves by the left edge and starts anew
+  frogs[2] = {2, 300, 762, 9, 0, 7};             // leaves by the bottom
+  frogs[3] = {2, 300, 761, 9, 0, 7};             // does not yet
+  frogs.resize(4);
+  for (i32 i = 4; i < 20; ++i) frogs.push_back({1, 1900, 0, 9, 0, 1});
+  const Names shown = step({fake::drawOf(1999, 2000), fake::drawOf(3, 2000), 0.014});
+  EXPECT_EQ((Names{shown[0], shown[1]}), (Names{"frog02 100x100 at 8,0", "frog02 100x100 at 300,761"}));
+  EXPECT_EQ((Numbers{frogs[1].x, frogs[1].y, frogs[2].x, frogs[2].y, frogs[2].picture}),
+            (Numbers{1999, 0, 3, 0, 2}));
+  fake::clockNow += 1;  // the bonus is over: no sound, no new start
+  step({});
+  EXPECT_EQ((Numbers{frogs[0].x, frogsUpper}), (Numbers{-8, 19}));
+  EXPECT_EQ(heard(), "frog01 frog03");
+}
+
+TEST_F(DrawingTest, ApplauseMixesClappingByItsDraw) {
+  const char* mixes[] = {"1", "2", "3", "12", "13", "23", "231"};
+  for (i32 draw = 0; draw < 7; ++draw) {
+    fake::draws = {fake::drawOf(draw, 7)};
+    applause();
+    std::string mix;
+    for (const std::string& sound : std::exchange(fake::sounds, {})) {
+      EXPECT_EQ(sound.substr(0, 10), "_clapping0");
+      mix += sound.back();
+    }
+    EXPECT_EQ(mix, mixes[draw]);
+  }
+}
+
+}  // namespace glonks
