@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@ namespace glonks {
 enum class ErrorNumber {
   badCall = 5,         // an argument that the routine can't take
   overflow = 6,        // a number outside the range of its field
+  outOfMemory = 7,     // memory that can't be had
   typeMismatch = 13,   // a text where a number has to stand
   channelUse = 52,     // a channel that isn't open, or open already
   fileNotFound = 53,   // no such file, or it can't be read
@@ -29,5 +31,9 @@ class RuntimeError : public std::runtime_error {
  private:
   ErrorNumber number_;
 };
+
+// A failure of any kind as log lines tell it: its number, ", " and its text. One that isn't a
+// RuntimeError is outOfMemory or badCall.
+std::string numberAndText(const std::exception& error);
 
 }  // namespace glonks

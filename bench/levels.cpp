@@ -18,6 +18,7 @@
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "present/keys.h"
+#include "present/pause.h"
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "storage/files/scrambledfiles.h"
@@ -285,7 +286,7 @@ void setUp(const std::string& gameFolder) {
   setProgramFolder(std::filesystem::absolute(gameFolder));
   fake::useGenerator();
   makeKeys(keySeed, keyDrawArgument, keyScale);
-  fConsole_Show(readKeys);
+  fConsole_Show(readKeys, pauseByCloseBox);
   initDX();
   songNames.clear();
   // Popups, goals and ticker live by being drawn; on one pixel that costs next to nothing.

@@ -186,7 +186,7 @@ void setUp() {
   layOutMenu();
   popModes();
   if (FUZZ_READER == std::string("piece") || FUZZ_READER == std::string("level")) {
-    fConsole_Show(nullptr);
+    fConsole_Show(nullptr, nullptr);
     initDX();
     initVariables();
     loadPieces();

@@ -3,7 +3,6 @@
 #include <set>
 
 #include "base/errors.h"
-#include "base/text.h"
 #include "game/model/model.h"
 #include "game/playloop.h"
 #include "present/effects/applause.h"
@@ -11,6 +10,7 @@
 #include "present/goaldisplay.h"
 #include "present/screen/display.h"
 #include "rules/generation.h"
+#include "rules/levelgoals.h"
 #include "storage/files/log.h"
 
 namespace glonks {
@@ -19,15 +19,15 @@ namespace {
 constexpr i32 titleX = 315;
 constexpr i32 titleY = 33;
 
-// What statements of this game have raised so far.
+// What the statements of this game have raised so far.
 std::set<std::string> failures;
 
 // Goes on after a statement that fails; each kind of failure stands once in the log.
 void runOnAfterFailure(Statement statement) {
   try {
     statement();
-  } catch (const RuntimeError& error) {
-    const std::string text = plainNumber(error.number()) + ", " + error.what();
+  } catch (const std::exception& error) {
+    const std::string text = numberAndText(error);
     if (failures.insert(text).second) logStep("play - a step failed: " + text);
   }
 }
@@ -46,29 +46,22 @@ void win() {
 void testOutcome() {
   if (levelOver == True) {
     if (tickerUpper < 0) gameOver = True;
-  } else if ((surviveOn == False) == (goalsMet() == True)) {
-    win();
+  } else if (surviveOn == False) {
+    if (goalsMet() == True) win();
+  } else {
+    if (goalsMet() == False) win();
   }
 }
-
-bool hasMinutesRunOut(i16 minutes, i16 seconds) { return seconds < 0 && minutes <= 0; }
 
 }  // namespace
 
 void playArcade() {
   failures.clear();
-  levelOver = False;
-  runLoop({runOnAfterFailure, spawnPiece, {drawTitle, drawGoals}, {}, {testOutcome}});
-}
-
-Flag goalsMet() {
-  const bool hasPieceGoal = goalPieceName != noName && goalPieceName != "Nothing";
-  const bool open = (hasPieceGoal && goalPieceCount > 0) ||
-                    (limitOn == True && hasMinutesRunOut(limitMinutes, limitSeconds)) ||
-                    (landOn == True && landLeft > 0) || (goalScore != -1 && goalScore > score) ||
-                    (surviveOn == True && hasMinutesRunOut(surviveMinutes, surviveSeconds)) ||
-                    (avoidOn == True && avoidLeft <= 0);
-  return flagOf(!open);
+  runLoop({.run = runOnAfterFailure,
+           .start = {[] { levelOver = False; }},
+           .spawn = spawnPiece,
+           .texts = {drawTitle, drawGoals},
+           .endOfFrame = {testOutcome}});
 }
 
 }  // namespace glonks

@@ -34,18 +34,24 @@ void spawnOrNote() {
 void drawScore() { backBuffer->DrawText(scoreX, scoreY, plainNumber(score), False); }
 
 void showParade() {
-  if (frogBonusOn == True && frogBonusUntil + paradeOvertime > gameTick()) frogParade();
+  if (frogBonusOn == True && i64{frogBonusUntil} + paradeOvertime > gameTick()) frogParade();
 }
 
 void startFrogBonus() {
   if (score <= frogBonusScore || frogBonusOn != False) return;
   frogBonusOn = True;
   pushMessage("Frog bonus!");
-  frogBonusUntil = gameTick() + frogBonusLength;
+  frogBonusUntil = gameTickIn(frogBonusLength);
 }
 
 }  // namespace
 
-void play() { runLoop({runPlainly, spawnOrNote, {drawScore}, {showParade}, {startFrogBonus}}); }
+void play() {
+  runLoop({.run = runPlainly,
+           .spawn = spawnOrNote,
+           .texts = {drawScore},
+           .behindFrame = {showParade},
+           .endOfFrame = {startFrogBonus}});
+}
 
 }  // namespace glonks

@@ -2,8 +2,8 @@
 
 namespace glonks {
 
-// Module mPlay: a Freestyle game from its first frame to its last. Needs initVariables, loadPieces
-// and loadLevel. Returns when gameOver is found set at the top of a pass.
+// Plays a Freestyle game from its first frame to its last. Needs initVariables, loadPieces and
+// loadLevel. Returns when gameOver is found set at the top of a pass.
 void play();
 
 }  // namespace glonks

@@ -5,8 +5,8 @@
 #include "present/effectdrawing.h"
 #include "present/fielddrawing.h"
 #include "present/itemdisplay.h"
-#include "present/keys.h"
 #include "present/music.h"
+#include "present/pause.h"
 #include "present/screen/display.h"
 #include "present/screen/messages.h"
 #include "present/tickerdrawing.h"
@@ -40,7 +40,7 @@ void runFrame(const LoopMode& mode, i32& nextFrame) {
   drawMovingThings(mode.run);
   runAll(mode.texts, mode.run);
   mode.run([] { primarySurface->Flip(nullptr, flipWait); });
-  nextFrame = gameTick() + framePeriod;
+  nextFrame = gameTickIn(framePeriod);
   mode.run(layPlate);
   runAll(mode.behindFrame, mode.run);
   mode.run(layFrame);
@@ -50,7 +50,7 @@ void runFrame(const LoopMode& mode, i32& nextFrame) {
 // Counted from now, with no making up.
 void payTimePoints() {
   if (nextPointsTick >= gameTick()) return;
-  nextPointsTick = gameTick() + timePointsPeriod;
+  nextPointsTick = gameTickIn(timePointsPeriod);
   payScore(timePoints);
 }
 
@@ -94,22 +94,25 @@ void drawMovingThings(Runner run) {
 void runLoop(const LoopMode& mode) {
   logStep("play - initializing variables");
   gameOver = False;
-  i32 nextSpawn = gameTick() + firstSpawnDelay;
+  runAll(mode.start, mode.run);
+  i32 nextSpawn = gameTickIn(firstSpawnDelay);
   i32 nextFrame = gameTick();
   lastKeyTick = gameTick();
-  nextPointsTick = gameTick() + timePointsPeriod;
+  nextPointsTick = gameTickIn(timePointsPeriod);
   pendingSpawns = 0;
   logStep("play - entering main loop");
 
+  inPlay = True;
   while (gameOver != True) {
     if (nextSpawn < gameTick()) {
       mode.run(mode.spawn);
-      nextSpawn = gameTick() + spawnInterval;
+      nextSpawn = gameTickIn(spawnInterval);
     }
     if (nextFrame < gameTick()) runFrame(mode, nextFrame);
     payTimePoints();
     endPass(mode.run);
   }
+  inPlay = False;
 }
 
 }  // namespace glonks

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-// The loop that the modes play in, with the order of a frame.
+// The loop that all modes play in, with the order of a frame.
 namespace glonks {
 
 // One step of the loop.
@@ -13,14 +13,15 @@ using Runner = void (*)(Statement statement);
 
 // What a mode's loop does in its own way.
 struct LoopMode {
-  Runner run;                          // all statements go through it
-  Statement spawn;                     // a spawn that has fallen due
-  std::vector<Statement> texts;        // the last things drawn before the Flip
-  std::vector<Statement> behindFrame;  // drawn between plate and frame picture
-  std::vector<Statement> endOfFrame;   // behind all drawing
+  Runner run = nullptr;                     // all statements go through it
+  std::vector<Statement> start = {};        // right after gameOver has been cleared
+  Statement spawn = nullptr;                // a spawn that has fallen due
+  std::vector<Statement> texts = {};        // the last things drawn before the Flip
+  std::vector<Statement> behindFrame = {};  // drawn between the plate and the frame picture
+  std::vector<Statement> endOfFrame = {};   // after all drawing
 };
 
-// Lets what a statement raises pass.
+// Runs the statement and passes on what it raises.
 void runPlainly(Statement statement);
 
 // Plays until gameOver. Needs the game's resources, its catalogue and spawnInterval.

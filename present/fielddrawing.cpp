@@ -31,7 +31,7 @@ void drawField() {
     }
   }
   for (i32 i = 0; i <= fallingPiecesUpper; ++i) {
-    const Piece& piece = fallingPieces[static_cast<std::size_t>(i)];
+    const Piece& piece = fallingPiece(i);
     drawPiece(piece.imageIndex, piece.column, piece.y);
   }
 }

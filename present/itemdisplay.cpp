@@ -26,7 +26,7 @@ void drawCounter(i32 x, i32 count) {
 void drawItems() {
   if (gameMode.counter == Counter::stock) {
     for (i16 item = 0; item < itemsShown; ++item) {
-      drawCounter(firstX + itemPitch * item, itemStock[static_cast<std::size_t>(item)]);
+      drawCounter(firstX + itemPitch * item, stockOf(item));
     }
   }
   if (gameMode.counter == Counter::pieces) drawCounter(firstX, bTypeLeft);

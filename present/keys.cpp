@@ -1,13 +1,11 @@
 #include "present/keys.h"
 
 #include "game/model/gametick.h"
+#include "game/model/model.h"
 #include "game/model/resources.h"
 #include "present/music.h"
+#include "present/pause.h"
 #include "present/screen/display.h"
-#include "present/screen/fconsole.h"
-#include "present/screen/messages.h"
-#include "present/services/bass.h"
-#include "present/services/window.h"
 #include "rules/items.h"
 #include "rules/rowshift.h"
 
@@ -39,19 +37,10 @@ bool isDown(ScanCode code) { return keyState[static_cast<std::size_t>(code)] != 
 
 // Takes one off a stock, if the mode lets items be used and there is one.
 bool takeItem(i16 slot) {
-  i16& stock = itemStock[static_cast<std::size_t>(slot)];
+  i16& stock = stockOf(slot);
   if (modeName != "Freestyle" || stock <= 0) return false;
   --stock;
   return true;
-}
-
-void detonate() {
-  _detonate->Play(0);
-  for (Row& row : playfield) {
-    for (Cell& cell : row.cells) {
-      if (cell.occupied == True && cell.isBomb == True) cell.expiry = 0;
-    }
-  }
 }
 
 void movePointer(i16 step) {
@@ -94,21 +83,6 @@ void act(i16 wanted) {
   }
 }
 
-void showPause() {
-  constexpr i32 textX = 10;
-  constexpr i32 textY = 20;
-  backBuffer->BltColorFill({}, RGB(0, 0, 0));
-  backBuffer->DrawText(textX, textY, "Paused...  Press the P key to resume.", False);
-  primarySurface->Flip(nullptr, flipWait);
-}
-
-void waitForScreen() {
-  setWindowState(fConsole.hWnd, WindowState::maximised);
-  while (dd->TestCooperativeLevel() != 0) letMessagesThrough();
-  setWindowState(fConsole.hWnd, WindowState::normal);
-  dd->RestoreAllSurfaces();
-}
-
 }  // namespace
 
 void readKeys() {
@@ -124,36 +98,10 @@ void readKeys() {
   for (const ScanCode code : {keyLeft, keyRight, keyUp, keyDown, keyEscape}) {
     if (isDown(code)) wanted = code;
   }
-  if (gameTick() <= lastKeyTick + keyGate) return;
+  if (gameTick() <= i64{lastKeyTick} + keyGate) return;
   if (paused == True) return;
   act(wanted);
   lastKeyTick = gameTick();
-}
-
-void togglePause() {
-  if (paused == True) {
-    ShowCursor(0);
-    paused = False;
-    BASS_Start();
-    return;
-  }
-  ShowCursor(1);
-  paused = True;
-  const u32 pauseStart = GetTickCount();
-  const i32 keyTickBefore = lastKeyTick;
-  BASS_Pause();
-  while (paused == True) {
-    letMessagesThrough();
-    if (dd->TestCooperativeLevel() == 0) {
-      showPause();
-    } else {
-      waitForScreen();
-    }
-  }
-  const u32 length = GetTickCount() - pauseStart;
-  tickBase += length;
-  // The key event that ended the pause has set lastKeyTick by the clock of before: it moves along.
-  if (lastKeyTick != keyTickBefore) lastKeyTick -= static_cast<i32>(length);
 }
 
 }  // namespace glonks

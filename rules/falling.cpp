@@ -40,7 +40,7 @@ i16 firstFreeRow(i16 column) {
 void movePieces() {
   const i16 upper = fallingPiecesUpper;
   for (i16 i = 0; i <= upper; ++i) {
-    Piece& piece = fallingPieces[static_cast<std::size_t>(i)];
+    Piece& piece = fallingPiece(i);
     ++piece.velocity;
     piece.y = static_cast<i16>(piece.y + piece.velocity);
     const i16 floor = floorOf(firstFreeRow(piece.column));
@@ -59,11 +59,11 @@ void movePieces() {
 }
 
 void landPiece(i16 index, i16 column) {
-  for (Row& row : playfield) {
-    Cell& cell = row[column];
+  for (i16 row = 0; row < rowCount; ++row) {
+    Cell& cell = cellAt(row, column);
     if (cell.occupied != False) continue;
     cell.occupied = True;
-    static_cast<Piece&>(cell) = fallingPieces[static_cast<std::size_t>(index)];
+    static_cast<Piece&>(cell) = fallingPiece(index);
     if (landOn == True && cell.tallied == False && cell.name == landName) countDown(landLeft);
     cell.tallied = True;
     return;

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/errors.h"
-#include "base/text.h"
 #include "game/model/model.h"
 #include "present/screen/display.h"
 #include "present/screen/keyedpicture.h"
@@ -45,9 +44,9 @@ void fruitize() {
   if (!dd) return;  // an earlier cocktail of this frame has failed and given the screen back
   try {
     turnAllToFruit();
-  } catch (const RuntimeError& error) {
-    logStep("error occured in fruitize function.");
-    logStep(plainNumber(error.number()) + ", " + error.what());
+  } catch (const std::exception& error) {
+    logLine("error occured in fruitize function.");
+    logLine(numberAndText(error));
     gameOver = True;
     destroy();
   }

@@ -7,7 +7,7 @@ namespace glonks {
 
 void shiftRow(Flag toLeft) {
   const i16 step = toLeft == True ? -1 : 1;
-  Row& row = playfield[static_cast<std::size_t>(selectedRow)];
+  Row& row = rowAt(selectedRow);
   Row shifted;
   for (Cell& cell : row.cells) {
     if (cell.occupied != True) continue;

@@ -61,16 +61,16 @@ Elimination placeAt(const Segment& segment, i16 at, Flag horizontal) {
   return {at, segment.line, horizontal};
 }
 
-Cell& cellAt(const Elimination& place) { return glonks::cellAt(place.row, place.column); }
+Cell& cellOf(const Elimination& place) { return cellAt(place.row, place.column); }
 
 // Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
 // Slammers counts as well. An oddity that is kept: the Slammers themselves aren't looked at, so one
 // that a Bomb has taken behind the scan still closes its segment.
 bool isRun(const Segment& segment, Flag horizontal) {
-  const Cell& first = cellAt(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
+  const Cell& first = cellOf(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
   if (first.occupied != True) return false;
   for (auto at = static_cast<i16>(segment.low + 1); at < segment.high; ++at) {
-    const Cell& cell = cellAt(placeAt(segment, at, horizontal));
+    const Cell& cell = cellOf(placeAt(segment, at, horizontal));
     if (cell.occupied != True || cell.name != first.name || cell.variety != first.variety ||
         cell.slammable == False) {
       return false;
@@ -100,7 +100,7 @@ void payBonus(i32 upper) {
 
 // A place that is listed again finds its cell empty by then.
 void eliminate(const Elimination& place) {
-  const Cell& cell = cellAt(place);
+  const Cell& cell = cellOf(place);
   if (cell.occupied != True) return;
   removePiece(place.row, place.column);
   pushZap(static_cast<i16>(cellPitch * cell.column + zapLeft), clamped<i16>(i32{cell.y} + zapTop),

@@ -10,7 +10,7 @@ namespace glonks {
 void armTimer(Piece& piece) {
   const double span = static_cast<double>(piece.timerMax) - piece.timerMin;
   const auto drawn = static_cast<i64>(std::floor(Rnd() * span));
-  piece.expiry = clamped<i32>(drawn + gameTick() + piece.timerMin);
+  piece.expiry = gameTickIn(drawn + piece.timerMin);
 }
 
 }  // namespace glonks

@@ -12,6 +12,7 @@
 #include "present/keys.h"
 #include "present/loadingscreen.h"
 #include "present/music.h"
+#include "present/pause.h"
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/menucontrols.h"
@@ -76,7 +77,7 @@ void main_BtnRun_Click() {
   gameMode = chosen;
   hideForm(fMain);
   gameOver = False;  // so that fConsole can't be closed while the game is being loaded
-  fConsole_Show(readKeys);
+  fConsole_Show(readKeys, pauseByCloseBox);
   loadGame();
   playGame();
   saveStore();

@@ -20,6 +20,14 @@ i16 readMinutes(const std::string& fieldName) {
       roundedField(levelChannel, fieldName, minutes, Small::min(), Small::max()));
 }
 
+i32 readSpawnInterval() {
+  const char* fieldName = "spawnInterval";
+  const i32 interval = readWholeI32(levelChannel, fieldName);
+  if (interval < 1) badField(levelChannel, fieldName, "isn't above 0.");
+  if (interval > longestInterval) badField(levelChannel, fieldName, "is above 3,600,000.");
+  return interval;
+}
+
 void readGoals() {
   limitOn = False;
   surviveOn = False;
@@ -67,8 +75,7 @@ void readSpawnEntry() {
 
 void loadLevel(const std::string& path, Flag isArcade) {
   ScrambledReader file(path, levelChannel);
-  spawnInterval = readWholeI32(levelChannel, "spawnInterval");
-  if (spawnInterval < 1) badField(levelChannel, "spawnInterval", "isn't above 0.");
+  spawnInterval = readSpawnInterval();
   if (isArcade == True) readGoals();
   while (!endOfFile(levelChannel)) readSpawnEntry();
   file.close();

@@ -34,10 +34,11 @@ void resetLevelFields() {
 void initVariables() {
   logStep("initVariables - erasing old variables");
   pieceCatalog.fill(Piece{});
+  fallingPieces.clear();
 
   logStep("initVariables - resetting counters");
   pieceCatalogUpper = -1;
-  erase(fallingPieces, fallingPiecesUpper);
+  fallingPiecesUpper = -1;
   erase(impacts, impactsUpper);
   erase(scorePopups, scorePopupsUpper);
   erase(zaps, zapsUpper);

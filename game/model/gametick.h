@@ -5,8 +5,11 @@
 
 namespace glonks {
 
-// Milliseconds of game time: the clock less tickBase, which a pause moves on by its length. Due or
-// expired always means strictly below it.
+// Milliseconds of game time: the clock less tickBase, which a pause moves on by its length. "Due"
+// and "expired" always mean strictly below it.
 inline i32 gameTick() { return static_cast<i32>(GetTickCount() - tickBase); }
+
+// The game tick `wait` ms from now; it stays at the end of its 32 bits.
+inline i32 gameTickIn(i64 wait) { return clamped<i32>(gameTick() + wait); }
 
 }  // namespace glonks

@@ -111,9 +111,8 @@ struct Frog {
 
 inline std::array<Row, rowCount> playfield;
 
-inline Cell& cellAt(i32 row, i32 column) {
-  return playfield[static_cast<std::size_t>(row)][column];
-}
+inline Row& rowAt(i32 row) { return playfield[static_cast<std::size_t>(row)]; }
+inline Cell& cellAt(i32 row, i32 column) { return rowAt(row)[column]; }
 
 inline constexpr i16 catalogSlots = 20;
 inline constexpr i16 negativeCalculatorSlot = 19;  // a picture only, never spawned
@@ -124,6 +123,9 @@ inline Piece& catalogEntry(i32 slot) { return pieceCatalog[static_cast<std::size
 
 inline std::vector<Piece> fallingPieces;
 inline i16 fallingPiecesUpper = -1;
+
+inline Piece& fallingPiece(i32 index) { return fallingPieces[static_cast<std::size_t>(index)]; }
+
 inline std::vector<Impact> impacts;
 inline i16 impactsUpper = -1;
 inline std::vector<Zap> zaps;
@@ -146,11 +148,13 @@ inline constexpr i16 midnightBowlingItem = 5;
 inline i32 score = 0;                              // reset: 0
 inline i16 bank = 0;                               // credits; kept from game to game
 inline std::array<i16, itemKinds> itemStock = {};  // goods held; kept
-inline i32 notesCollected = 0;                     // Music pieces removed so far; kept
-inline i16 selectedRow = 0;                        // row under the pointer, 0 to 6; reset: 0
+inline i16& stockOf(i32 item) { return itemStock[static_cast<std::size_t>(item)]; }
+inline i32 notesCollected = 0;           // Music pieces removed so far; kept
+inline i16 selectedRow = 0;              // row under the pointer, 0 to 6; reset: 0
 inline std::string modeName;             // set by the Play button; item keys need "Freestyle"
 inline i32 spawnInterval = 0;            // ms between two spawns; set by the level file
 inline Flag gameOver = False;            // ends the play loop at the top of its next pass
+inline Flag inPlay = False;              // a play loop is running; set by it
 inline Flag paused = False;              // a pause is in force
 inline i32 lastKeyTick = 0;              // game tick of the last key handled
 inline i32 nextPointsTick = 0;           // game tick at which the next time points fall due

@@ -4,9 +4,20 @@
 #include "present/services/window.h"
 
 namespace glonks {
+namespace {
 
-void fConsole_Show(void (*keyDown)()) {
-  fConsole.hWnd = openWindow(fConsole.caption, {keyDown, fConsole_Unload});
+void (*closeRefused)() = nullptr;
+
+void clickCloseBox() {
+  fConsole_Unload();
+  if (fConsole.hWnd != 0) closeRefused();
+}
+
+}  // namespace
+
+void fConsole_Show(void (*keyDown)(), void (*closeAsked)()) {
+  closeRefused = closeAsked;
+  fConsole.hWnd = openWindow(fConsole.caption, {keyDown, clickCloseBox});
 }
 
 void fConsole_Form_Unload(i16& cancel) {

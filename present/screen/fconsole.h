@@ -13,8 +13,9 @@ struct ConsoleForm {
 };
 inline ConsoleForm fConsole;
 
-// Loads and shows the form. `keyDown` runs at each key event that it gets.
-void fConsole_Show(void (*keyDown)());
+// Loads and shows the form. `keyDown` runs at each key event that it gets, `closeAsked` when its
+// close box is clicked and it can't be closed.
+void fConsole_Show(void (*keyDown)(), void (*closeAsked)());
 
 // Sets `cancel` to 1 while a game runs: the form can't be closed then.
 void fConsole_Form_Unload(i16& cancel);

@@ -52,6 +52,11 @@ void logStep(const std::string& text) {
   writeLog(line, True);
 }
 
+void logLine(const std::string& text) {
+  std::string line = text;
+  writeLog(line, False);
+}
+
 void closeLog() {
   if (logEnabled == False) return;
   writeEntry(stamp("CLOSED"));

@@ -6,6 +6,7 @@
 
 #include "game/modes.h"
 #include "present/keys.h"
+#include "present/pause.h"
 #include "present/screen/fconsole.h"
 #include "present/services/bass.h"
 #include "shell/menucontrols.h"
@@ -58,7 +59,7 @@ auto readyState() {
   fake::generator.reset();
   gameMode = modeTitled("Freestyle");
   modeName = "Freestyle";
-  fConsole_Show(readKeys);
+  fConsole_Show(readKeys, pauseByCloseBox);
   initDX();
   fake::draws = {0};  // the plate
   initVariables();
