@@ -7,7 +7,8 @@ namespace glonks {
 
 class BoardScanTest : public EngineTest {
  protected:
-  static void scan(const std::string& before, const std::string& due = "", const Draws& draws = {}) {
+  static void scan(const std::string& before, const std::string& due = "",
+                   const Draws& draws = {}) {
     renew();
     lay(before, due);
     fake::draws = draws;
@@ -32,11 +33,11 @@ TEST_F(BoardScanTest, PiecesActOnceTheirTimersHaveRunOut) {
       {"4.G", "G", {0.35, 0, 0}, "4.G; falls G3; hears gorgon01"},
       {"S/1/R1./2B3", "B", {}, "; falls 10 S0; pops 0 0 10 10 20 10; impacts 1; hears pop01"},
       // What a Bomb has taken is gone, though it was due itself or a Slammer.
-      {"U/B", "UB", {}, "; pops 0 0 0; impacts 1; hears bauble01 pop01; queued 3"},
+      {"U/B", "UB", {}, "; pops 0 0 0; impacts 1; hears pop01 bauble01; queued 3"},
       {"C1/1B", "CB", {}, "; pops 0 0 10 30 10; impacts 1; hears pop01"},
       {"B/B", "B", {}, "; pops 0 0 0; impacts 1; hears pop01"},
       // One that a scan has passed goes off by its own time, one that hangs is lifted first.
-      {"1/U/B", "U", {}, "B; falls 11; pops 500; hears bauble02"},
+      {"1/U/B", "U", {}, "B; falls 10; pops 500; hears bauble02"},
       // Slams come before Shifters, and one that was slammed shifts its row all the same.
       {"SHS/12.3", "H", {0}, "12.3; pops 25 0 0; zaps hhh; hears slam01*3 changerow"},
   };
@@ -74,8 +75,8 @@ TEST_F(BoardScanTest, DiamondPaysOnceAlsoWhenItLandsAgainAndBombsActWhenTheyLand
   fallToRest();
   heard();
   for (i32 i = 0; i < 3; ++i) scanPieces();
-  EXPECT_EQ(outcome(), "....D; pops 0 0 100; impacts 1; hears pop01");
-  EXPECT_EQ((Numbers{scorePopups[2].x, scorePopups[2].y}), (Numbers{270, 450}));
+  EXPECT_EQ(outcome(), "....D; pops 100 0 0; impacts 1; hears pop01");
+  EXPECT_EQ((Numbers{scorePopups[0].x, scorePopups[0].y}), (Numbers{270, 450}));
 }
 
 TEST_F(BoardScanTest, ShiftersMoveTheirRowsInScanOrderAndLeaveThePointer) {
@@ -110,13 +111,12 @@ TEST_F(BoardScanTest, PythagoreanBonusComesOnceWhenCalculatorsHavePaidEnough) {
     Flag done;
     char letter;
     const char* after;
-  } cases[] = {
-      {1469, False, 'C', "; hears calculate02; sum 1499"},
-      {1470, False, 'C',
-       "; hears calculate02; says PYTHAGOREAN BONUS!  2500 POINTS; score 2500; sum 1500"},
-      {1500, False, 'c', "; hears calculate01; sum 1460"},
-      {1470, True, 'C', "; hears calculate02; sum 1470"},
-      {-32760, False, 'c', "; hears calculate01; sum -32768"}};
+  } cases[] = {{1469, False, 'C', "; hears calculate02; sum 1499"},
+               {1470, False, 'C',
+                "; hears calculate02; says PYTHAGOREAN BONUS!  2500 POINTS; score 2500; sum 1500"},
+               {1500, False, 'c', "; hears calculate01; sum 1460"},
+               {1470, True, 'C', "; hears calculate02; sum 1470"},
+               {-32760, False, 'c', "; hears calculate01; sum -32768"}};
   for (const auto& [sum, done, letter, after] : cases) {
     renew();
     lay(std::string(1, letter), std::string(1, letter));
@@ -157,7 +157,7 @@ TEST_F(BoardScanTest, RunsBetweenTwoSlammersGoAndLongOnesPayABonus) {
       // Runs that share a Slammer or a piece are removed once, and counted as often as found.
       {"S1S2S", "; pops 10 0 0 10 0; zaps hhhhh", 2000},
       {"SSS", "; pops 0 0 0; zaps hhh", 1200},
-      {"RS/S1S/RS", "R/....../R; pops 10 0 0 0 0; zaps hhhvv", 2000},
+      {"RS/S1S/RS", "R; falls R0; pops 10 0 0 0 0; zaps hhhvv", 2000},
       {"S2S...S1S", "; pops 10 0 0 10 0 0; zaps hhhhhh", 2000},
   };
   for (const auto& [before, after, bonus] : cases) {
@@ -175,8 +175,7 @@ TEST_F(BoardScanTest, RunsBetweenTwoSlammersGoAndLongOnesPayABonus) {
 TEST_F(BoardScanTest, ZapsLieOverTheirPiecesAndWhatStoodOnThemDrops) {
   scan(".23/.SSR/3141");
   EXPECT_EQ(outcome(), "...R/3141; falls 21 32; pops 0 0; zaps hh; hears slam01*2");
-  EXPECT_EQ((Numbers{zaps[0].x, zaps[0].y, zaps[0].age, zaps[1].x}),
-            (Numbers{185, 515, 5, 270}));
+  EXPECT_EQ((Numbers{zaps[0].x, zaps[0].y, zaps[0].age, zaps[1].x}), (Numbers{185, 515, 5, 270}));
 }
 
 TEST_F(BoardScanTest, SlammerThatTheScanHasSeenClosesItsRunThoughItIsGoneAndFreeCellsOpenIt) {

@@ -58,7 +58,15 @@ TEST_F(DataFilesTest, CatalogueHoldsEveryKindOfPieceInItsSlot) {
     EXPECT_EQ(piece.surfaceDesc.width, piece.surface ? pieceSize : 0) << piece.name;
   }
   EXPECT_EQ(pieceCatalogUpper, 18);
-  EXPECT_EQ(kinds, "");
+  EXPECT_EQ(kinds,
+            "BType0 bs 0 0 0 \nPin0 P 0 0 0 \nSlammer0 S 0 0 0 slammer\n"
+            "Bomb0 bB 0 25000 35000 bomb\nBauble0 bsU 0 60000 120000 bauble\n"
+            "Diamond0 D 0 0 0 diamond\nCalculator0 bsC 0 11000 13000 calculator_01\n"
+            "Gorgon0 bsG 500 50000 70000 gorgon\nShifter0 bsH 25 7000 9000 shifter\n"
+            "Bowling Ball0 W 0 0 0 bowlingball\nMoney0 bsM 0 0 0 money\nMusic0 bs 0 0 0 music\n"
+            "Rock1 b 20 0 0 rock_01\nRock2 b 20 0 0 rock_02\nRock3 b 20 0 0 rock_03\n"
+            "Glonk1 bs 10 0 0 glonk_01\nGlonk2 bs 10 0 0 glonk_02\nGlonk3 bs 10 0 0 glonk_03\n"
+            "Glonk4 bs 10 0 0 glonk_04\n0  0 0 0 calculator_02\n");
 }
 
 // Numbers and flags are taken from the leading part of their fields.

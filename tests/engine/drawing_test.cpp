@@ -26,9 +26,9 @@ TEST_F(DrawingTest, FieldIsDrawnFromTheBottomLeftAndWhatFallsOverIt) {
   cellAt(1, 2).y = 400;  // the place comes from y alone
   drop('B', 9, -40);
   drop('S', 0, 600).alive = False;
-  EXPECT_EQ(drawnBy(drawField),
-            (Names{"glonk_01 90x90 at 80,600", "calculator_02 90x90 at 250,600",
-                   "glonk_02 90x90 at 250,480", "bomb 90x90 at 845,40", "slammer 90x90 at 80,680"}));
+  EXPECT_EQ(drawnBy(drawField), (Names{"glonk_01 90x90 at 80,600", "calculator_02 90x90 at 250,600",
+                                       "glonk_02 90x90 at 250,480", "bomb 90x90 at 845,40",
+                                       "slammer 90x90 at 80,680"}));
   selectedRow = 6;
   EXPECT_EQ(drawnBy(drawPointer), Names{"pointer 70x45 at 10,110"});
   EXPECT_EQ(drawnBy(layPlate),
@@ -121,15 +121,19 @@ TEST_F(DrawingTest, GoalLinesStandInTheirOrderAndMoveUp) {
     i32 goal;
     i16 limit, survive;
     Names lines;
-  } cases[] = {
-      {-1, -1, -1, -1, -1, -1, {}},
-      {4, -1, -1, -1, 2, -1, {"Gorgons:   4 at 85,26", "Time: 2:09 at 85,41"}},
-      {-1, 3, 0, -1, -1, -1, {"Rocks:   3 at 85,26", "Bombs:   0 at 85,41"}},
-      {2, 3, -1, -1, -1, -1, {"Gorgons:   2 at 85,26", "Rocks:   3 at 85,26"}},
-      {-1, -1, 2, 500, 0, 1,
-       {"Bombs:   2 at 85,26", "Score: -7/ 500 at 85,41", "Time: 0:09 at 85,56",
-        "Time: 1:09 at 85,56"}},
-      {-1, -1, -1, 0, -1, 12, {"Score: -7/ 0 at 85,26", "Time: 12:09 at 85,41"}}};
+  } cases[] = {{-1, -1, -1, -1, -1, -1, {}},
+               {4, -1, -1, -1, 2, -1, {"Gorgons:   4 at 85,26", "Time: 2:09 at 85,41"}},
+               {-1, 3, 0, -1, -1, -1, {"Rocks:   3 at 85,26", "Bombs:   0 at 85,41"}},
+               {2, 3, -1, -1, -1, -1, {"Gorgons:   2 at 85,26", "Rocks:   3 at 85,26"}},
+               {-1,
+                -1,
+                2,
+                500,
+                0,
+                1,
+                {"Bombs:   2 at 85,26", "Score: -7/ 500 at 85,41", "Time: 0:09 at 85,56",
+                 "Time: 1:09 at 85,56"}},
+               {-1, -1, -1, 0, -1, 12, {"Score: -7/ 0 at 85,26", "Time: 12:09 at 85,41"}}};
   score = -7;
   minuteStart = gameTick() - 50999;
   goalPieceName = "Bomb";
@@ -172,14 +176,15 @@ TEST_F(DrawingTest, ParadeSendsTwentyFrogsDownTheScreenAndStops) {
   // A picture stays for its delay and one frame: 6 of the first, 5 of the second.
   EXPECT_EQ((Numbers{frogs[0].picture, frogs[1].picture, frogs[19].speed, frogs[19].x}),
             (Numbers{3, 3, 7, 993}));
-  frogs[0] = {2, 8, 0, 9, 0, 8};                 // goes on at the very edge
-  frogs[1] = {2, 7, 0, 9, 0, 8};                 // leaves by the left edge and starts anew
-  frogs[2] = {2, 300, 762, 9, 0, 7};             // leaves by the bottom
-  frogs[3] = {2, 300, 761, 9, 0, 7};             // does not yet
+  frogs[0] = {2, 8, 0, 9, 0, 8};      // goes on at the very edge
+  frogs[1] = {2, 7, 0, 9, 0, 8};      // leaves by the left edge and starts anew
+  frogs[2] = {2, 300, 762, 9, 0, 7};  // leaves by the bottom
+  frogs[3] = {2, 300, 761, 9, 0, 7};  // does not yet
   frogs.resize(4);
   for (i32 i = 4; i < 20; ++i) frogs.push_back({1, 1900, 0, 9, 0, 1});
   const Names shown = step({fake::drawOf(1999, 2000), fake::drawOf(3, 2000), 0.014});
-  EXPECT_EQ((Names{shown[0], shown[1]}), (Names{"frog02 100x100 at 8,0", "frog02 100x100 at 300,761"}));
+  EXPECT_EQ((Names{shown[0], shown[1]}),
+            (Names{"frog02 100x100 at 8,0", "frog02 100x100 at 300,761"}));
   EXPECT_EQ((Numbers{frogs[1].x, frogs[1].y, frogs[2].x, frogs[2].y, frogs[2].picture}),
             (Numbers{1999, 0, 3, 0, 2}));
   fake::clockNow += 1;  // the bonus is over: no sound, no new start

@@ -14,30 +14,29 @@
 #include "storage/files/scrambledfiles.h"
 
 // The game's variables, and all others that a test may change.
-#define GAME_STATE                                                                              \
-  playfield, pieceCatalog, pieceCatalogUpper, fallingPieces, fallingPiecesUpper, impacts,       \
-      impactsUpper, zaps, zapsUpper, scorePopups, scorePopupsUpper, tickerLines, tickerUpper,   \
-      frogs, frogsUpper, score, bank, itemStock, notesCollected, selectedRow, modeName,         \
-      spawnInterval, gameOver, paused, lastKeyTick, nextPointsTick, pendingSpawns, frogBonusOn, \
-      frogBonusUntil, pythagoreanDone, pythagoreanSum, bTypeLeft, musicVolume, songNames,       \
-      songIndex, songTitle, tickBase, levelTitle, rewardLevelName, rewardLevelFile,             \
-      goalPieceCount, goalPieceName, goalScore, limitOn, limitMinutes, limitSeconds, surviveOn, \
-      surviveMinutes, surviveSeconds, avoidOn, avoidLeft, avoidName, landOn, landLeft,          \
-      landName, minuteStart, levelOver, levelWon, _changerow, _moverow, _gameover,              \
-      connectSounds, _pop01, _slam01, _gorgon01, _coin01, _gorgon02, _calculate01,              \
-      _calculate02, _bowling01, frogSounds, _detonate, _music01, _bauble01, _bauble02,          \
-      clappingSounds, pointerSurface, zapVSurface, zapHSurface, frameSurface, glyphSurfaces,    \
-      frogPictures, explosionSurface, plateSurface
-#define OTHER_STATE                                                                              \
-  themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,  \
-      mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode, \
-      tLevels, fake::clockNow, fake::sleeps, fake::nextSeed, fake::draws, fake::generator,       \
-      fake::seedings, fake::boxes, fake::yes, fake::asked, fake::typed, fake::forms,             \
-      fake::opened, fake::messages, fake::messagePasses, fake::keys, fake::screenIsLost,         \
-      fake::picturesShown, fake::windowOpen, fake::windowTitle, fake::cursorShown,               \
-      fake::windowMessages, fake::sounds, fake::brokenSamples, fake::samplesLoaded,              \
-      fake::songsOpened, fake::brokenSongs, fake::songEnded, fake::musicHalted,                  \
-      fake::songVolume, fake::soundNotice, fake::drawn, fake::onPicture
+#define GAME_STATE                                                                                \
+  playfield, pieceCatalog, pieceCatalogUpper, fallingPieces, fallingPiecesUpper, impacts,         \
+      impactsUpper, zaps, zapsUpper, scorePopups, scorePopupsUpper, tickerLines, tickerUpper,     \
+      frogs, frogsUpper, score, bank, itemStock, notesCollected, selectedRow, modeName,           \
+      spawnInterval, gameOver, inPlay, paused, lastKeyTick, nextPointsTick, pendingSpawns,        \
+      frogBonusOn, frogBonusUntil, pythagoreanDone, pythagoreanSum, bTypeLeft, musicVolume,       \
+      songNames, songIndex, songTitle, tickBase, levelTitle, rewardLevelName, rewardLevelFile,    \
+      goalPieceCount, goalPieceName, goalScore, limitOn, limitMinutes, limitSeconds, surviveOn,   \
+      surviveMinutes, surviveSeconds, avoidOn, avoidLeft, avoidName, landOn, landLeft, landName,  \
+      minuteStart, levelOver, levelWon, _changerow, _moverow, _gameover, connectSounds, _pop01,   \
+      _slam01, _gorgon01, _coin01, _gorgon02, _calculate01, _calculate02, _bowling01, frogSounds, \
+      _detonate, _music01, _bauble01, _bauble02, clappingSounds, pointerSurface, zapVSurface,     \
+      zapHSurface, frameSurface, glyphSurfaces, frogPictures, explosionSurface, plateSurface
+#define OTHER_STATE                                                                                \
+  themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,    \
+      mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode,   \
+      tLevels, fake::clockNow, fake::sleeps, fake::nextSeed, fake::draws, fake::generator,         \
+      fake::seedings, fake::boxes, fake::yes, fake::asked, fake::typed, fake::forms, fake::opened, \
+      fake::messages, fake::messagePasses, fake::keys, fake::screenIsLost, fake::picturesShown,    \
+      fake::windowOpen, fake::windowTitle, fake::cursorShown, fake::windowMessages, fake::sounds,  \
+      fake::brokenSamples, fake::samplesLoaded, fake::songsOpened, fake::brokenSongs,              \
+      fake::songEnded, fake::musicReady, fake::musicReady, fake::musicHalted, fake::songVolume,    \
+      fake::soundNotice, fake::drawn, fake::onPicture
 #define STRING_OF(...) #__VA_ARGS__
 #define NAMES_OF(list) STRING_OF(list)
 
@@ -67,18 +66,22 @@ auto readyState() {
   drawn();
   heard();
   fake::samplesLoaded.clear();
+  fake::seedings = 0;
   fake::picturesShown = 0;
   return copyOf(allState());
 }
 
 constexpr const char* letters = "SBUDCcGHMNTPRW1234";
-constexpr const char* kinds[] = {"Slammer",    "Bomb",   "Bauble",       "Diamond", "Calculator",
-                                 "Calculator", "Gorgon", "Shifter",      "Money",   "Music",
-                                 "BType",      "Pin",    "Rock",         "Bowling Ball",
-                                 "Glonk",      "Glonk",  "Glonk",        "Glonk"};
+constexpr const char* kinds[] = {"Slammer",    "Bomb",   "Bauble",  "Diamond",      "Calculator",
+                                 "Calculator", "Gorgon", "Shifter", "Money",        "Music",
+                                 "BType",      "Pin",    "Rock",    "Bowling Ball", "Glonk",
+                                 "Glonk",      "Glonk",  "Glonk"};
 
 i16 varietyOf(char letter) {
-  return static_cast<i16>(letter == 'c' ? -1 : letter == 'R' ? 1 : letter <= '4' ? letter - '0' : 0);
+  return static_cast<i16>(letter == 'c'   ? -1
+                          : letter == 'R' ? 1
+                          : letter <= '4' ? letter - '0'
+                                          : 0);
 }
 
 char letterOf(const Piece& piece) {
@@ -300,6 +303,12 @@ std::string outcome() {
   count("row", selectedRow, 0);
   count("over", gameOver, False);
   return all;
+}
+
+void choose(const std::string& mode, const std::string& level) {
+  addItem(tMode, mode);
+  addItem(tLevels, level, 7);
+  tMode.listIndex = tLevels.listIndex = 0;
 }
 
 Names drawn() { return std::exchange(fake::drawn, {}); }

@@ -76,6 +76,9 @@ std::string ticker();
 // hv; hears slam01*2; says VICTORY!; score 5000". `falls`: letters and columns.
 std::string outcome();
 
+// Selects a mode and the level of file 7 on the page of the new game.
+void choose(const std::string& mode, const std::string& level);
+
 // What has been drawn since the last call.
 Names drawn();
 

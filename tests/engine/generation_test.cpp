@@ -32,8 +32,9 @@ TEST_F(GenerationTest, DrawPicksTheHighestSlotWhoseRangeHoldsIt) {
     std::tie(entryOf(letter).spawnLow, entryOf(letter).spawnHigh) = range;
   }
   const bool later = &entryOf('2') > &entryOf('1');
-  const std::pair<i32, char> cases[] = {{1, '1'},   {399, '1'}, {400, later ? '2' : '1'},
-                                        {499, later ? '2' : '1'}, {500, 'R'}, {999, 'R'}};
+  const std::pair<i32, char> cases[] = {
+      {1, '1'},   {399, '1'}, {400, later ? '2' : '1'}, {499, later ? '2' : '1'},
+      {500, 'R'}, {999, 'R'}};
   for (const auto& [draw, letter] : cases) {
     EXPECT_EQ(stateOf(spawn(draw)), std::string(1, letter) + " at 6 0 1 0") << draw;
   }
@@ -103,7 +104,9 @@ TEST_F(GenerationTest, BallForAFullColumnTakesItsTopAtOnceAndTellsByFlagOrName) 
   const std::string column = "......1/......2/......3/......4/......1/......2/......3";
   levelOf('W');
   const Action arrivals[] = {[] { spawn(5); },
-                             [] { fake::draws = {0.6, 0}, dropItem("Bowling Ball"); }};
+                             [] {
+                               fake::draws = {0.6, 0}, dropItem("Bowling Ball");
+                             }};
   for (const Action& arrive : arrivals) {
     lay(column);
     erase(impacts, impactsUpper);

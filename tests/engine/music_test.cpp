@@ -32,8 +32,8 @@ TEST_F(MusicTest, SongLineStartsTheNextSongAndGivesUpThoseThatCantBePlayed) {
   fake::draws = {0, 0.9};
   for (i32 pass = 0; pass < 5; ++pass) showSongLine();  // the second goes on
   EXPECT_EQ(fake::songsOpened, (Names{"\\music\\A", "\\music\\B"}));
-  EXPECT_EQ(drawn(), (Names{" at 80,723", "A at 80,723", "B at 80,723", "B at 80,723",
-                            "B at 80,723"}));
+  EXPECT_EQ(drawn(),
+            (Names{" at 80,723", "A at 80,723", "B at 80,723", "B at 80,723", "B at 80,723"}));
   fake::brokenSongs.insert("\\music\\B");
   fake::songEnded = true;
   fake::draws = {0, 0.9};

@@ -22,7 +22,7 @@ TEST_F(NewGameTest, DirtyGameComesOutAsAFreshOneButForWhatIsKept) {
   dirtyGame();
   const auto dirtied = gameState();
   std::istringstream kept(
-      "bank itemStock notesCollected modeName spawnInterval gameOver paused lastKeyTick "
+      "bank itemStock notesCollected modeName spawnInterval gameOver inPlay paused lastKeyTick "
       "nextPointsTick pendingSpawns frogBonusUntil bTypeLeft musicVolume songNames songIndex "
       "songTitle tickBase levelOver levelWon");
   for (std::string name; kept >> name;) expected.at(name) = dirtied.at(name);
@@ -59,7 +59,7 @@ TEST_F(NewGameTest, PicturesAreLoadedInTheirOrderAndStandInTheirPlaces) {
     reset(3);
     const std::string letters = "A B C D E F G H I J K L M N O P Q R S T U V W X Y Z ! Space ";
     const std::string other = "frog01 frog02 frog03 frog04 frog05 ";
-    EXPECT_EQ(loaded, "pointer zap_v zap_h " + std::string(*mode == 'n' ? "" : frame + (" ")) +
+    EXPECT_EQ(loaded, "pointer zap_v zap_h " + (*mode == 'n' ? "" : frame + std::string(" ")) +
                           letters + "0 1 2 3 4 5 6 7 8 9 " + other + "explosion plate_03 ");
     auto state = gameState();
     EXPECT_EQ(state["frameSurface"] + state["plateSurface"], frame + std::string("plate_03"));
@@ -69,6 +69,7 @@ TEST_F(NewGameTest, PicturesAreLoadedInTheirOrderAndStandInTheirPlaces) {
                   state["explosionSurface"],
               "pointerzap_vzap_hexplosion");
   }
+  fake::onPicture = nullptr;
   themeName = "Nowhere";
   EXPECT_PRED2(holds, errorOf([] { reset(5); }), "\\themes\\Nowhere\\plate_05.bmp");
 }
@@ -104,11 +105,11 @@ TEST_F(NewGameTest, ScreenInputAndMusicAreTakenStepByStepAndGivenBack) {
     EXPECT_EQ(logged(), steps);
     closeLog();
   }
-  EXPECT_EQ((Numbers{screenWidth, screenHeight, sampleDesc.flags, sampleFormat.formatTag,
-                     sampleFormat.channels, sampleFormat.samplesPerSecond,
-                     sampleFormat.bitsPerSample, sampleFormat.blockAlign,
-                     sampleFormat.bytesPerSecond}),
-            (Numbers{1024, 768, 0xE2, 1, 2, 22050, 16, 4, 88200}));
+  EXPECT_EQ(
+      (Numbers{screenWidth, screenHeight, sampleDesc.flags, sampleFormat.formatTag,
+               sampleFormat.channels, sampleFormat.samplesPerSecond, sampleFormat.bitsPerSample,
+               sampleFormat.blockAlign, sampleFormat.bytesPerSecond}),
+      (Numbers{1024, 768, 0xE2, 1, 2, 22050, 16, 4, 88200}));
 }
 
 }  // namespace glonks

@@ -21,7 +21,8 @@ TEST_F(RowShiftTest, SelectedRowMovesByOneColumnAndWrapsAroundAndWhatHangsIsLift
       {"1/2", 0, True, ".........2; falls 10; hears changerow", "1 at 0 435 0 4"},
       {"1/2", 1, True, "2; falls 19; hears changerow; row 1", "1 at 9 435 0 4"},
       {".4/12/31", 1, False, ".4/.1/31; falls 22; hears changerow; row 1", "2 at 2 435 0 4"},
-      {"......4/......3/......2/......1", 1, False, "......1; falls 27 36 46; hears changerow; row 1",
+      {"......4/......3/......2/......1", 1, False,
+       "......1; falls 27 36 46; hears changerow; row 1",
        "2 at 7 435 0 4, 3 at 6 350 0 4, 4 at 6 265 0 4"}};
   for (const auto& [before, row, toLeft, after, lifted] : cases) {
     renew();

@@ -67,7 +67,10 @@ bool hasAudioDevice() { return true; }
 void noteDeviceRemoved() {}
 void noteSound(const std::string& /*notice*/) {}
 
-Flag BASS_Init(i32, i32, i32, i32, i32) { return True; }
+Flag BASS_Init(i32, i32, i32, i32, i32) {
+  fake::musicReady = true;
+  return True;
+}
 u32 BASS_StreamCreateFile(i32, const std::string& path, i32, i32, i32) {
   fake::songsOpened.push_back(path);
   fake::songEnded = false;
@@ -81,6 +84,6 @@ i32 BASS_ChannelIsActive(u32 handle) { return handle != 0 && !fake::songEnded ? 
 void BASS_StreamFree(u32) {}
 void BASS_Pause() { fake::musicHalted = true; }
 void BASS_Start() { fake::musicHalted = false; }
-void BASS_Free() {}
+void BASS_Free() { fake::musicReady = false; }
 
 }  // namespace glonks

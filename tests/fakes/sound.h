@@ -18,6 +18,7 @@ inline std::vector<std::string> samplesLoaded;  // in the order of loading
 inline std::vector<std::string> songsOpened;  // paths, also of songs that failed
 inline std::set<std::string> brokenSongs;     // paths that can't be opened
 inline bool songEnded = false;                // the song that plays has come to its end
+inline bool musicReady = false;               // between BASS_Init and BASS_Free
 inline bool musicHalted = false;
 inline i32 songVolume = -1;
 inline std::string soundNotice;

@@ -63,7 +63,9 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
   const std::string part = from.left == 0 && from.top == 0 ? sizeOf(from) : placed(from);
   const bool keyed = flags == bltKeyed && source->hasKey_;
   note(this, name + " " + (stretched ? part + " to " : "") + placed(to) +
-                 (flags == bltOpaque ? " opaque" : keyed ? "" : " wrongly keyed"));
+                 (flags == bltOpaque ? " opaque"
+                  : keyed            ? ""
+                                     : " wrongly keyed"));
   return 0;
 }
 

@@ -1,0 +1,320 @@
+#include <cmath>
+
+#include "game/arcade.h"
+#include "game/freestyle.h"
+#include "game/loading/levels.h"
+#include "game/modes.h"
+#include "present/effects/effects.h"
+#include "present/effects/ticker.h"
+#include "rules/levelgoals.h"
+#include "storage/files/log.h"
+#include "tests/engine/enginetest.h"
+
+namespace glonks {
+
+class LoopTest : public EngineTest {
+ protected:
+  LoopTest() { newGame(); }
+
+  static void newGame() {
+    renew();
+    loadLevel("\\levels\\2193", False);
+    fake::useGenerator();
+  }
+
+  // Runs a loop, its passes `pass` ms apart, to `end` ms after its start. `each` runs at the end of
+  // each pass with the time since then.
+  static void run(void (*loop)(), i32 pass, i32 end, const std::function<void(i32)>& each) {
+    const i32 start = gameTick();
+    fake::messages = [=] {
+      each(gameTick() - start);
+      fake::clockNow += static_cast<u32>(pass);
+      if (gameTick() > start + end) gameOver = True;
+    };
+    loop();
+  }
+
+  struct Decision {
+    i32 at = -1;  // ms after the start of the loop
+    std::string words;
+    i32 framesToEnd = 0;
+  };
+
+  // Plays half a second at each pass until the level is decided, and frame by frame then.
+  static Decision playLevel(const std::function<void(i32)>& during) {
+    Decision decision;
+    spawnInterval = 1000000000;
+    minuteStart = gameTick();
+    run(playArcade, 0, 300000, [&](i32 now) {
+      during(now);
+      if (levelOver == True && decision.at < 0) decision = {now, ticker(), -fake::picturesShown};
+      fake::clockNow += levelOver == True ? 27 : 500;
+    });
+    decision.framesToEnd += fake::picturesShown;
+    return decision;
+  }
+};
+
+TEST_F(LoopTest, FrameIsDrawnInItsOrder) {
+  const struct {
+    const char* mode;
+    void (*loop)();
+    Names counters, texts, behindFrame;
+    const char* frame;
+  } cases[] = {
+      {"Freestyle",
+       play,
+       {"0 x  at 300,33", "0 x  at 400,33", "0 x  at 500,33", "0 x  at 600,33"},
+       {"0 at 83,45"},
+       {"frog01 100x100 at 500,0"},
+       "frame whole"},
+      {"Arcade", playArcade, {}, {"Title at 315,33", "Score:  0/ 50 at 85,26"}, {}, "frame whole"}};
+  for (const auto& [mode, loop, counters, texts, behindFrame, frame] : cases) {
+    newGame();
+    gameMode = modeTitled(mode);
+    lay("1");
+    drop('2', 3, 100, 1);
+    pushImpact(0, 0, True);
+    pushZap(0, 0, True);
+    pushPopup(0, 100, 5);
+    pushMessage("I");
+    frogBonusOn = True;
+    frogBonusUntil = gameTick() - 2970;
+    frogs.assign(20, {1, -1, 0, 9, 0, 7});
+    frogs[0].x = 500;
+    frogsUpper = 19;
+    songTitle = "Song";
+    levelTitle = "Title";
+    goalScore = 50;
+    levelOver = True;
+    run(loop, 27, 27, [&](i32 now) {
+      // What an Arcade level decided before is forgotten.
+      EXPECT_EQ(levelOver, *mode == 'A' ? False : True);
+      if (now == 0) drawn();
+    });
+    Names expected = {"glonk_01 90x90 at 80,600", "glonk_02 90x90 at 335,182",
+                      "pointer 70x45 at 10,620"};
+    const auto add = [&](const Names& lines) {
+      expected.insert(expected.end(), lines.begin(), lines.end());
+    };
+    add(counters);
+    add({"0 x  at 795,33", "0 x  at 895,33", "explosion 300x300 to 10x10 at 185,185",
+         "zap_h 80x80 to 85x4 at -15,38", " 5 at 190,290", "I 50x50 at 986,365"});
+    add(texts);
+    add({"flip", "fill 0 whole", "plate_01 500x350 to 853x610 at 81,80 opaque"});
+    add(behindFrame);
+    add({frame, "Song at 80,723"});
+    EXPECT_EQ(drawn(), expected) << mode;
+  }
+}
+
+TEST_F(LoopTest, PiecesFramesAndTimePointsAreDueByTheLastOfTheirKind) {
+  Numbers arrivals, frames, payments;
+  i32 pieces = 0, shown = 0, paid = 0;
+  spawnInterval = 9000;
+  run(play, 1, 25000, [&](i32 now) {
+    if (fallingPiecesUpper >= pieces) arrivals.push_back(now);
+    if (fake::picturesShown > shown && now < 100) frames.push_back(now);
+    if (score > paid) payments.push_back(now);
+    pieces = fallingPiecesUpper + 1;
+    shown = fake::picturesShown;
+    paid = score;
+    if (now == 10005) fake::clockNow += 2000;  // what is late isn't made up for
+  });
+  EXPECT_EQ(arrivals, (Numbers{501, 9502, 18503}));
+  EXPECT_EQ(frames, (Numbers{1, 27, 53, 79}));
+  EXPECT_EQ(payments, (Numbers{10001, 20002}));
+  EXPECT_EQ(score, 6);
+}
+
+TEST_F(LoopTest, PendingSpawnsComeAfterThePhysicsOfTheirFrameAndWhatFallsIsScannedInIt) {
+  pendingSpawns = 5;  // left over from a game before
+  drop('D', 4, 519, 3, 4);
+  drop('U', 5, 519, 3, 4).expiry = 0;
+  run(play, 27, 54, [](i32 now) {
+    if (now == 27) {
+      EXPECT_EQ(outcome().substr(0, 14), "....D; pops 10");
+      pendingSpawns = 3;
+    }
+    if (now == 54) {
+      EXPECT_EQ((Numbers{fallingPiecesUpper, fallingPieces[0].y}), (Numbers{2, 0}));
+    }
+  });
+}
+
+TEST_F(LoopTest, OneFreestyleSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenCollected) {
+  const struct {
+    void (*loop)();
+    i32 draw, collected;
+    bool isNote;
+  } cases[] = {{play, 1, 8, true},
+               {play, 1, 9, false},
+               {play, 0, 0, false},
+               {play, 2, 0, false},
+               {playArcade, 1, 0, false}};
+  for (const auto& [loop, draw, collected, isNote] : cases) {
+    newGame();
+    goalScore = 50;
+    notesCollected = collected;
+    fake::draws = {fake::drawOf(draw, 2000)};
+    run(loop, 1, 510, [](i32) {});
+    EXPECT_EQ(fallingPieces.back().name == "Music", isNote) << draw;
+  }
+}
+
+TEST_F(LoopTest, FrogBonusStartsAbove60000AndOnceAndItsParadeRunsThreeSecondsMore) {
+  score = 60000;
+  run(play, 1, 400, [&](i32 now) {
+    EXPECT_EQ(frogBonusOn, flagOf(now > 104));
+    if (now == 100) score = 60001;
+    if (now != 140) return;
+    EXPECT_EQ((Numbers{frogBonusUntil, frogsUpper}), (Numbers{1000 + 105 + 60000, 0}));
+    EXPECT_EQ(ticker(), "FROG BONUS!");
+    frogBonusUntil = gameTick() - 2970;
+  });
+  EXPECT_EQ((Numbers{frogBonusUntil, frogBonusOn}), (Numbers{1140 - 2970, True}));
+  EXPECT_EQ(frogsUpper, 1);  // one more frame, until 3 seconds after the bonus
+}
+
+TEST_F(LoopTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {
+  std::set<i32> shown;
+  i32 passes = 0;
+  run(play, 1, 300, [&](i32) {
+    ++passes;
+    fake::screenIsLost = passes >= 100 && passes < 300;
+    if (passes >= 101 && passes < 300) shown.insert(fake::picturesShown);
+    if (passes == 310) fake::pressKeys({keyP});
+  });
+  EXPECT_EQ(shown.size(), 1U);
+  EXPECT_NEAR(static_cast<double>(tickBase), 210, 2);
+  EXPECT_EQ(inPlay, False);
+}
+
+TEST_F(LoopTest, LevelsAreDecidedByTheirGoalsAndTimers) {
+  const auto survive = [](i16 minutes, i16 seconds) {
+    surviveOn = True;
+    surviveMinutes = minutes;
+    surviveSeconds = seconds;
+  };
+  const auto limit = [](i16 minutes, i16 seconds) {
+    limitOn = True;
+    limitMinutes = minutes;
+    limitSeconds = seconds;
+  };
+  // Counts of one kind or another, until a time.
+  const auto pieces = [](i32 now) { goalPieceCount = now < 2000 ? 1 : 0; };
+  const auto landings = [](i32 now) { landLeft = now < 3000 ? 1 : 0; };
+  const auto losses = [](i32 now) {
+    avoidLeft = now < 4000 ? 1 : 0;
+    score = now < 4000 ? 0 : 50;
+  };
+  const auto points = [](i32 now) { score = now < 200000 ? 0 : 50; };
+  const auto nothing = [](i32) {};
+  const struct {
+    const char* name;
+    Action setUp;
+    std::function<void(i32)> during;
+    i32 at;
+    const char* words;
+  } cases[] = {
+      {"no goal", [] {}, nothing, 500, "VICTORY!"},
+      {"piece goal", [] { goalPieceName = "Glonk"; }, pieces, 2500, "VICTORY!"},
+      {"no piece goal", [] { goalPieceName = "Nothing"; }, pieces, 500, "VICTORY!"},
+      {"score by time points", [] { goalScore = 3; }, nothing, 11000, "VICTORY!"},
+      {"land goal", [] { landOn = True; }, landings, 3500, "VICTORY!"},
+      {"avoid goal", [] { avoidOn = True, goalScore = 50; }, losses, 4500, "FAILED!"},
+      {"time limit", [&] { limit(1, 1), goalScore = 999; }, nothing, 119000, "TIME EXPIRED"},
+      {"survival", [&] { survive(1, 1); }, nothing, 119000, "VICTORY!"},
+      {"survival and an open goal", [&] { survive(1, 1), goalScore = 50; }, nothing, 500,
+       "VICTORY!"},
+      {"survival, seconds below 0", [&] { survive(1, -5); }, nothing, 60500, "VICTORY!"},
+      {"limit, seconds below 0", [&] { limit(0, -5); }, nothing, 59000, "TIME EXPIRED"},
+      {"limit without minutes", [&] { limit(-1, 5), goalScore = 50; }, points, 200500, "VICTORY!"},
+      {"both timers", [&] { limit(2, 1), survive(1, 1); }, nothing, 179500, "TIME EXPIRED"},
+  };
+  for (const auto& [name, setUp, during, at, words] : cases) {
+    newGame();
+    setUp();
+    const Decision decision = playLevel(during);
+    EXPECT_EQ(decision.words, words) << name;
+    EXPECT_NEAR(decision.at, at, 1500) << name;
+    const Flag won = flagOf(*words == 'V');
+    EXPECT_EQ(levelWon, won) << name;
+    EXPECT_EQ(holds(heard(), "clapping"), won == True) << name;
+    const auto length = static_cast<double>(decision.words.size());
+    EXPECT_NEAR(decision.framesToEnd, std::ceil((1000 + 50 * (length - 1)) / 14), 1) << name;
+  }
+}
+
+TEST_F(LoopTest, DecidedLevelStaysAsItIs) {
+  const struct {
+    Flag won;
+    std::function<void(i32)> during;
+  } cases[] = {
+      {False, [](i32) { avoidLeft = 0, score = tickerUpper > 0 ? 50 : 0; }},
+      {True, [](i32) { score = 50, avoidLeft = levelOver == True ? 0 : 1, gameOver = levelOver; }},
+      {False, [](i32) { gameOver = True; }}};  // by Escape or a full column, before any goal
+  for (const auto& [won, during] : cases) {
+    newGame();
+    avoidOn = True;
+    avoidLeft = 1;
+    goalScore = 50;
+    playLevel(during);
+    EXPECT_EQ(levelWon, won);
+  }
+}
+
+// In the middle of a game a picture can't be drawn any more, sounds fail and memory runs out: every
+// other step of the loop goes on.
+TEST_F(LoopTest, ArcadeLoopGoesOnAfterAStepThatFailsAndLogsEachKindOnce) {
+  logEnabled = True;
+  openLog();
+  goalScore = 100;
+  lay(".D", "D");
+  drop('1', 4, 519, 9);
+  fake::onPicture = [](const std::string& name) {
+    if (name == "frame") throw RuntimeError(ErrorNumber::serviceFailed, "frame");
+  };
+  for (const std::string number : {"01", "02", "03"}) {
+    fake::brokenSamples.insert("_connect" + number);
+    fake::brokenSamples.insert("_clapping" + number);
+  }
+  const Decision decision = playLevel([](i32 now) {
+    if (now != 500) return;
+    ++fake::clockNow;
+    throw std::bad_alloc();
+  });
+  EXPECT_EQ(decision.words, "VICTORY!");  // by the Diamond's popup, which climbs all the same
+  EXPECT_EQ(levelWon, True);
+  EXPECT_LT(decision.framesToEnd, 100);
+  std::set<std::string> once;
+  std::string all;
+  for (const std::string& line : logged()) {
+    EXPECT_TRUE(once.insert(line).second) << line;
+    all += line;
+  }
+  for (const char* failure : {"429, frame", "7, std::bad_alloc", "_connect0", "_clapping0"}) {
+    EXPECT_PRED2(holds, all, failure);
+  }
+}
+
+// Two Bombs in one frame make fruit whose pictures can't be loaded: nothing of the game touches
+// what has been given back.
+TEST_F(LoopTest, FruitThatCantBeLoadedEndsTheGameCleanly) {
+  for (void (*loop)() : {play, playArcade}) {
+    newGame();
+    goalScore = 90000;
+    fake::onPicture = [](const std::string& name) {
+      if (name == "cherry") throw RuntimeError(ErrorNumber::fileNotFound, name);
+    };
+    run(loop, 27, 1000, [](i32 now) {
+      if (now == 27) lay("12...12/3B4..3B4/R....RRR", "B");
+      drawn();
+    });
+    EXPECT_TRUE(drawn().empty());
+    EXPECT_EQ((Numbers{score, fake::windowOpen, paused, levelWon, gameTick()}),
+              (Numbers{10000, false, False, False, 1054}));
+  }
+}
+
+}  // namespace glonks

@@ -1,0 +1,175 @@
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "rules/items.h"
+#include "shell/playbutton.h"
+#include "storage/files/scrambledfiles.h"
+#include "tests/engine/enginetest.h"
+
+namespace glonks {
+
+// Whole games from fixed seeds and scripted keys, started by the Play button. Every ten seconds
+// and at the end the game's state is written down, one field to a line, with digests of all that
+// has been drawn and heard, and compared with the record under replays/. With GLONKS_RECORD set in
+// the environment the records are made again: look at what has changed before you keep them.
+class ReplayTest : public EngineTest {
+ protected:
+  struct Script {
+    std::string name;
+    std::string level;                   // plain text
+    std::vector<std::vector<i32>> keys;  // pressed in turn, one every 180 ms
+    std::map<i32, Action> events;        // by ms since the first pass
+  };
+
+  ReplayTest() { ownFolderOfLinks("levels"); }
+
+  static u32 digestOf(const Names& lines) {
+    u32 mixed = 2166136261U;
+    for (const std::string& line : lines) {
+      for (const char c : line + "\n") mixed = (mixed ^ static_cast<u32>(c)) * 16777619U;
+    }
+    return mixed;
+  }
+
+  void noteState(i32 now) {
+    Names pieces;
+    const auto add = [&](const Piece& piece) {
+      pieces.push_back(stateOf(piece) + " " + std::to_string(piece.expiry) + " " +
+                       std::to_string(piece.value) + " " + std::to_string(piece.direction));
+    };
+    for (const Row& row : playfield) {
+      for (const Cell& cell : row.cells) {
+        if (cell.occupied == True) add(cell);
+      }
+    }
+    for (const Piece& piece : fallingPieces) add(piece);
+    everHeard_.insert(fake::sounds.begin(), fake::sounds.end());
+    const Names sounds = std::exchange(fake::sounds, {});
+    std::string state = outcome();
+    for (std::size_t at = 0; (at = state.find("; ", at)) != std::string::npos;) {
+      state.replace(at, 2, "\n");
+    }
+    trace_ << "== " << now << " ms\n"
+           << state << "\npieces " << digestOf(pieces) << "\nsounds " << sounds.size() << " "
+           << digestOf(sounds) << "\ndrawn " << fake::drawn.size() << " " << digestOf(drawn())
+           << "\nlevel " << limitMinutes << " " << surviveMinutes << " " << levelOver << levelWon
+           << "\n";
+  }
+
+  void play(const std::string& mode, const Script& script) {
+    putBytes("\\plain", script.level);
+    for (const char* file : {"\\levels\\2193", "\\levels\\7"}) {
+      std::filesystem::remove(nativePath(file));
+      scrambleFile("\\plain", file);
+    }
+    renew();
+    fake::useGenerator();
+    itemStock.fill(9);
+    choose(mode, script.name);
+    i32 start = -1, nextKey = 0, nextNote = 0;
+    std::size_t pressed = 0;
+    auto event = script.events.begin();
+    fake::messages = [&] {
+      if (start < 0) start = gameTick();
+      fake::clockNow += 27;
+      const i32 now = gameTick() - start;
+      if (!tickerLines.empty()) everRead_ += ticker() + "\n";
+      for (; event != script.events.end() && event->first <= now; ++event) event->second();
+      if (now >= nextKey && !script.keys.empty()) {
+        fake::pressKeys(script.keys[pressed++ % script.keys.size()]);
+        nextKey += 180;
+      }
+      if (now < nextNote) return;
+      noteState(now);
+      nextNote += 10000;
+    };
+    trace_ << "LEVEL " << script.name << "\n";
+    main_BtnRun_Click();
+    noteState(gameTick() - start);
+    for (const i16 count : itemStock) trace_ << count << " ";
+    trace_ << "\n";
+  }
+
+  // Compares what has been written down with the record of this name.
+  void expectRecord(const std::string& name) const {
+    const std::string path = std::string(GLONKS_SOURCE) + "/tests/engine/replays/" + name + ".txt";
+    if (std::getenv("GLONKS_RECORD") != nullptr) std::ofstream(path) << trace_.str();
+    std::ifstream record(path);
+    std::istringstream played(trace_.str());
+    std::string time, expected, seen;
+    while (std::getline(record, expected)) {
+      std::getline(played, seen);
+      if (expected.compare(0, 2, "==") == 0) time = expected;
+      ASSERT_EQ(seen, expected) << name << " " << time;
+    }
+    EXPECT_FALSE(std::getline(played, seen)) << name << " goes on: " << seen;
+  }
+
+  std::ostringstream trace_;
+  std::set<std::string> everHeard_;
+  std::string everRead_;
+};
+
+TEST_F(ReplayTest, FreestyleWithEveryItemAndEffect) {
+  const auto layDue = [](const std::string& rows) { lay(rows, "CGHUBc"); };
+  play("Freestyle",
+       {"freestyle",
+        "900\nGlonk,1,0,149\nGlonk,2,150,299\nGlonk,3,300,399\nGlonk,4,400,499\nSlammer,0,500,699\n"
+        "Bomb,0,700,729\nCalculator,0,730,759\nDiamond,0,760,779\nShifter,0,780,809\n"
+        "Money,0,810,829\nGorgon,0,830,859\nBauble,0,860,879\nBowling Ball,0,880,929\n"
+        "Music,0,930,949\nPin,0,950,969\nBType,0,970,979\nRock,1,980,999\n",
+        {{keyLeft},  {keyUp}, {keyLeft},  {key1},    {keyRight},         {keyUp},  {keyLeft},
+         {keyRight}, {key4},  {keyDown},  {keyLeft}, {keyLeft},          {keyUp},  {key3},
+         {keyRight}, {keyUp}, {keyRight}, {key2},    {keyDown, keyLeft}, {keyLeft}},
+        {{0, [] { score = 59990, pythagoreanSum = 1480, bTypeLeft = 1; }},
+         {13000, [=] { layDue("C"); }},
+         {17000, [=] { layDue("..121/..3B4.TP/.R1PRHD/S22SRMH/R3NGCcU"); }},
+         {20500, [=] { layDue(".121/.3B4"); }},
+         {25000, [] { lay("UUUUUUUUUU"), dropItem("Bowling Ball"); }},
+         {40000, [] { lay(".2T2/.S.S/S4444SSMS"), bTypeLeft = 1; }},
+         {150000, [] { fake::pressKeys({keyEscape}); }}}});
+  expectRecord("freestyle");
+  for (const std::string& sample : fake::samplesLoaded) {
+    const bool ofOthers = sample == "_gameover" || holds(sample, "clapping");
+    EXPECT_TRUE(ofOthers || everHeard_.count(sample) == 1) << sample;
+  }
+  for (const char* words : {"SLAM BONUS!", "FRUIT COCKTAIL BONUS!  5000", "PYTHAGOREAN BONUS!",
+                            "FROG BONUS!", "VICTORY!"}) {
+    EXPECT_TRUE(holds(everRead_, words)) << words;
+  }
+}
+
+TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {
+  const std::string pieces =
+      "\nGlonk,1,0,299\nGlonk,2,300,499\nGlonk,4,500,599\nSlammer,0,600,799\nRock,1,800,899\n"
+      "Bomb,0,900,949\nShifter,0,950,999\n";
+  const Script scripts[] = {
+      {"won by its goals",
+       "1500\nGoals\nNext\n8\n4,Glonk,2000,3,30,-1,-1,-1,-1,9,Slammer",
+       {},
+       {{30000, [] { lay("..R/S111S/14R4R"); }}}},
+      {"won by survival", "2500\nSurvive\nNext\n8\n-1,-1,-1,-1,-1,1,30,9,Rock,-1,-1", {}, {}},
+      {"lost by the avoid goal",
+       "1500\nAvoid\nNext\n8\n9,Glonk,-1,-1,-1,-1,-1,2,Rock,-1,-1",
+       {},
+       {{20000, [] { lay("R/1BR", "B"); }}}},
+      {"lost by the time limit",
+       "2500\nLimit\nNext\n8\n-1,-1,90000,1,30,-1,-1,-1,-1,-1,-1",
+       {},
+       {}},
+      {"lost by a full column", "400\nFull\nNext\n8\n99,Bomb,-1,-1,-1,-1,-1,-1,-1,-1,-1", {}, {}},
+      {"given up",
+       "1500\nEscape\nNext\n8\n99,Bomb,-1,-1,-1,-1,-1,-1,-1,-1,-1",
+       {},
+       {{15000, [] { fake::pressKeys({keyEscape}); }}}}};
+  for (Script script : scripts) {
+    script.level += pieces;
+    script.keys = {{keyLeft}, {keyUp}, {keyLeft}, {keyRight}, {keyUp}, {keyDown}, {keyLeft}};
+    play("Arcade", script);
+    EXPECT_EQ(levelWon == True, script.name.substr(0, 3) == "won") << script.name;
+  }
+  expectRecord("arcade");
+}
+
+}  // namespace glonks
