@@ -98,65 +98,41 @@ TEST_F(DrawingTest, TickerRunsFromTheRightAndDropsItsLettersWhole) {
   EXPECT_EQ(tickerUpper, -1);
 }
 
-TEST_F(DrawingTest, CountersFollowTheModePicked) {
-  itemStock = {3, 0, 12, 7, 99, 99};
-  bank = 5;
-  notesCollected = 8;
-  bTypeLeft = 31;
-  const std::pair<const char*, Names> modesShown[] = {
-      {"Freestyle", {"3 x  at 300,33", "0 x  at 400,33", "12 x  at 500,33", "7 x  at 600,33"}},
-      {"Arcade", {}},
-      {"B-Type", {"31 x  at 300,33"}},
-      {"Midnight Bowling", {}}};
-  for (auto [mode, lines] : modesShown) {
-    gameMode = modeTitled(mode);
-    for (const char* kept : {"5 x  at 795,33", "8 x  at 895,33"}) lines.emplace_back(kept);
-    EXPECT_EQ(drawnBy(drawItems), lines) << mode;
-  }
-}
-
-TEST_F(DrawingTest, GoalLinesStandInTheirOrderAndMoveUp) {
-  const struct {
-    i16 land, avoid, piece;
-    i32 goal;
-    i16 limit, survive;
-    Names lines;
-  } cases[] = {{-1, -1, -1, -1, -1, -1, {}},
-               {4, -1, -1, -1, 2, -1, {"Gorgons:   4 at 85,26", "Time: 2:09 at 85,41"}},
-               {-1, 3, 0, -1, -1, -1, {"Rocks:   3 at 85,26", "Bombs:   0 at 85,41"}},
-               {2, 3, -1, -1, -1, -1, {"Gorgons:   2 at 85,26", "Rocks:   3 at 85,26"}},
-               {-1,
-                -1,
-                2,
-                500,
-                0,
-                1,
-                {"Bombs:   2 at 85,26", "Score: -7/ 500 at 85,41", "Time: 0:09 at 85,56",
-                 "Time: 1:09 at 85,56"}},
-               {-1, -1, -1, 0, -1, 12, {"Score: -7/ 0 at 85,26", "Time: 12:09 at 85,41"}}};
-  score = -7;
-  minuteStart = gameTick() - 50999;
-  goalPieceName = "Bomb";
-  landName = "Gorgon";
-  avoidName = "Rock";
-  for (const auto& goals : cases) {
-    landLeft = goals.land;
-    landOn = flagOf(goals.land != -1);
-    avoidLeft = goals.avoid;
-    avoidOn = flagOf(goals.avoid != -1);
-    goalPieceCount = goals.piece;
-    goalScore = goals.goal;
-    limitMinutes = goals.limit;
-    limitOn = flagOf(goals.limit != -1);
-    surviveMinutes = goals.survive;
-    surviveOn = flagOf(goals.survive != -1);
-    EXPECT_EQ(drawnBy(drawGoals), goals.lines) << goals.land << goals.avoid << goals.goal;
-  }
-  minuteStart += 1000;
-  score = 20;
-  EXPECT_EQ(drawnBy(drawGoals), (Names{"Score:  20/ 0 at 85,26", "Time: 12:10 at 85,41"}));
-  levelOver = True;  // the time line goes, the counts stay
-  EXPECT_EQ(drawnBy(drawGoals), Names{"Score:  20/ 0 at 85,26"});
+// Lines of the top band, as "text at x,y".
+TEST_F(DrawingTest, CountersAndGoalsStandInTheirOrder) {
+  const auto noteDrawn = [] {
+    std::string all = "draws";
+    for (const std::string& line : drawn()) all += " / " + line;
+    note(all);
+  };
+  const Acts acts = {{"counters",
+                      [=](const Words& mode) {
+                        gameMode = modeTitled(mode[0]);
+                        itemStock = {3, 0, 12, 7, 99, 99};
+                        drawItems();
+                        noteDrawn();
+                      }},
+                     {"goals", [=](const Words&) { drawGoals(), noteDrawn(); }}};
+  playTable(R"(
+  | bank=5 notesCollected=8 bTypeLeft=31 counters:Freestyle | draws / 3 x  at 300,33 / 0 x  at 400,33 / 12 x  at 500,33 / 7 x  at 600,33 / 5 x  at 795,33 / 8 x  at 895,33
+  | bank=5 notesCollected=8 bTypeLeft=31 counters:Arcade    | draws / 5 x  at 795,33 / 8 x  at 895,33
+  | bank=5 notesCollected=8 bTypeLeft=31 counters:B-Type    | draws / 31 x  at 300,33 / 5 x  at 795,33 / 8 x  at 895,33
+  | goals | draws
+  | minuteStart=-49999 landOn=-1 landName=Gorgon landLeft=4 limitOn=-1 limitMinutes=2 goals | draws / Gorgons:   4 at 85,26 / Time: 2:09 at 85,41
+  | minuteStart=-48999 surviveOn=-1 surviveMinutes=12 goals       | draws / Time: 12:10 at 85,26
+  | avoidOn=-1 avoidName=Rock avoidLeft=3 goalPieceName=Bomb goalPieceCount=0 goals         | draws / Rocks:   3 at 85,26 / Bombs:   0 at 85,41
+  | landOn=-1 landName=Gorgon landLeft=2 avoidOn=-1 avoidName=Rock avoidLeft=3 goals        | draws / Gorgons:   2 at 85,26 / Rocks:   3 at 85,26
+  | score=-7 goalPieceName=Bomb goalPieceCount=2 goalScore=500 goals | draws / Bombs:   2 at 85,26 / Score: -7/ 500 at 85,41
+  | score=20 goalScore=0 limitOn=-1 limitMinutes=0 surviveOn=-1 surviveMinutes=1 minuteStart=1000 goals | draws / Score:  20/ 0 at 85,26 / Time: 0:59 at 85,41 / Time: 1:59 at 85,41
+  // Timers end with their last minute's second 0, and both minutes are taken off the limit.
+  | limitOn=-1 limitMinutes=0 minuteStart=-58000 goals goals | says TIME EXPIRED; levelOver -1; draws / Time: 0:00 at 85,26; draws
+  | ~0 surviveOn=-1 surviveMinutes=0 minuteStart=-58000 goals | hears clapping01; says VICTORY!; levelOver -1; levelWon -1; draws / Time: 0:00 at 85,26
+  | limitOn=-1 limitMinutes=1 minuteStart=-58999 goals | draws / Time: 1:00 at 85,26
+  | limitOn=-1 limitMinutes=1 surviveOn=-1 surviveMinutes=1 minuteStart=-59000 goals | limitMinutes 0; minuteStart 1000; draws / Time: 0:59 at 85,26 / Time: 1:59 at 85,26
+  | limitOn=-1 limitMinutes=-32768 minuteStart=-59000 goals | minuteStart 1000; draws / Time: -32768:59 at 85,26
+  | avoidOn=-1 avoidName=Rock avoidLeft=0 goals goals | says FAILED!; levelOver -1; draws / Rocks:   0 at 85,26; draws / Rocks:   0 at 85,26
+  )",
+            acts);
 }
 
 TEST_F(DrawingTest, ParadeSendsTwentyFrogsDownTheScreenAndStops) {

@@ -126,22 +126,119 @@ void dirty(Value& value) {
   }
 }
 
-std::string pieces(const std::function<std::string(const Piece&)>& shown, const char* between) {
-  std::string all;
-  for (const Piece& piece : fallingPieces) all += (all.empty() ? "" : between) + shown(piece);
-  return all;
+// Runs an action with the name and the value of each of the game's variables.
+template <typename Action>
+void forAll(Action action) {
+  std::istringstream names(NAMES_OF(GAME_STATE));
+  const auto next = [&](auto& value) {
+    std::string name;
+    std::getline(names >> std::ws, name, ',');
+    action(name, value);
+  };
+  std::apply([&](auto&... values) { (next(values), ...); }, std::tie(GAME_STATE));
 }
 
-std::string popups() {
-  std::string points;
-  for (const ScorePopup& popup : scorePopups) points += " " + std::to_string(popup.points);
-  return points;
+using State = std::map<std::string, std::string>;
+
+// Single numbers and texts.
+State singles() {
+  State state;
+  forAll([&](const std::string& name, const auto& value) {
+    using Value = std::decay_t<decltype(value)>;
+    const bool isBound = name.size() > 5 && name.substr(name.size() - 5) == "Upper";
+    if constexpr (std::is_arithmetic_v<Value> || std::is_same_v<Value, std::string>) {
+      if (!isBound) state[name] = text(value);
+    }
+  });
+  return state;
 }
 
-std::string zapKinds() {
-  std::string all;
-  for (const Zap& zap : zaps) all += zap.horizontal == True ? "h" : "v";
-  return all.empty() ? "" : " " + all;
+State before;  // what outcome compares with
+std::string boardBefore;
+std::string remarks;
+
+void startFromHere() {
+  before = singles();
+  boardBefore = board();
+  remarks.clear();
+}
+
+constexpr i32 never = 1000000000;
+
+std::string fallingText(const Piece& piece) {
+  std::string all = letterOf(piece) + std::to_string(piece.column);
+  if (piece.direction != 0) all += piece.direction == 1 ? "<" : ">";
+  if (piece.isCalculator == True) all += "=" + std::to_string(piece.value);
+  const bool runs = piece.expiry > 0 && piece.expiry != never;
+  if (runs) all += "@" + std::to_string(piece.expiry - gameTick());
+  if (piece.y == 0 && piece.velocity == 1 && piece.bounces == 0) return all;
+  return all + ":" + std::to_string(piece.y) + "," + std::to_string(piece.velocity) + "," +
+         std::to_string(piece.bounces);
+}
+
+const std::map<std::string, i32> keyCodes = {
+    {"Escape", 1}, {"1", 2},      {"2", 3},    {"3", 4},      {"4", 5},       {"P", 25},
+    {"N", 49},     {"Space", 57}, {"Up", 200}, {"Left", 203}, {"Right", 205}, {"Down", 208}};
+
+Words split(const std::string& all, char between) {
+  Words parts;
+  std::istringstream text(all);
+  for (std::string part; std::getline(text, part, between);) parts.push_back(part);
+  return parts;
+}
+
+std::string trimmed(const std::string& all) {
+  const std::size_t first = all.find_first_not_of(' ');
+  return first == std::string::npos ? "" : all.substr(first, all.find_last_not_of(' ') - first + 1);
+}
+
+double drawOf(const std::string& draw) {
+  const std::size_t slash = draw.find('/');
+  if (slash == std::string::npos) return std::stod(draw);
+  return fake::drawOf(std::stoi(draw), std::stoi(draw.substr(slash + 1)));
+}
+
+i16 numberAt(const Words& words, std::size_t index, i16 none = 0) {
+  return static_cast<i16>(index < words.size() ? std::stoi(words[index]) : none);
+}
+
+Acts everyTablesActs() {
+  return {{"drop",
+           [](const Words& words) {
+             drop(words[0][0], numberAt(words, 1), numberAt(words, 2), numberAt(words, 3, 1),
+                  numberAt(words, 4));
+           }},
+          {"press",
+           [](const Words& words) {
+             press(words.empty() ? "" : words[0], static_cast<u32>(numberAt(words, 1, 1000)));
+           }},
+          {"wait", [](const Words& words) { fake::clockNow += std::stoul(words[0]); }},
+          {"rest", [](const Words& words) { EXPECT_EQ(fallToRest(), numberAt(words, 0)); }}};
+}
+
+void playRow(const std::string& row, const Acts& acts) {
+  const Words columns = split(row + " ", '|');
+  renew();
+  const Words laid = split(trimmed(columns.at(0)), ' ');
+  lay(laid.empty() ? "" : laid[0], laid.size() < 2 ? "" : laid[1]);
+  bool started = false;
+  for (const std::string& token : split(trimmed(columns.at(1)), ' ')) {
+    if (token.empty()) continue;
+    if (token.find('=') != std::string::npos) {
+      set(token);
+    } else if (token[0] == '~') {
+      fake::draws.push_back(drawOf(token.substr(1)));
+    } else {
+      if (!started) startFromHere();
+      started = true;
+      const std::size_t colon = token.find(':');
+      acts.at(token.substr(0, colon))(
+          colon == std::string::npos ? Words{} : split(token.substr(colon + 1), ','));
+    }
+  }
+  EXPECT_EQ(outcome(), trimmed(columns.at(2))) << row;
+  EXPECT_TRUE(fake::draws.empty()) << "draws were not taken: " << row;
+  fake::draws.clear();
 }
 
 }  // namespace
@@ -149,6 +246,7 @@ std::string zapKinds() {
 void renew() {
   static const auto ready = readyState();
   allState() = ready;
+  startFromHere();
 }
 
 EngineTest::EngineTest() { renew(); }
@@ -158,20 +256,40 @@ EngineTest::~EngineTest() {
   closeLog();
 }
 
-std::map<std::string, std::string> gameState() {
-  std::map<std::string, std::string> state;
-  std::istringstream names(NAMES_OF(GAME_STATE));
-  const auto add = [&](const auto& value) {
-    std::string name;
-    std::getline(names >> std::ws, name, ',');
-    state[name] = text(value);
-  };
-  std::apply([&](const auto&... values) { (add(values), ...); }, std::tie(GAME_STATE));
+State gameState() {
+  State state;
+  forAll([&](const std::string& name, const auto& value) { state[name] = text(value); });
   return state;
 }
 
 void dirtyGame() {
-  std::apply([](auto&... values) { (dirty(values), ...); }, std::tie(GAME_STATE));
+  forAll([](const std::string& /*name*/, auto& value) { dirty(value); });
+}
+
+void set(const std::string& settings) {
+  for (const std::string& setting : split(settings, ' ')) {
+    const std::size_t sign = setting.find('=');
+    const std::string given = setting.substr(sign + 1);
+    bool known = false;
+    forAll([&](const std::string& name, auto& value) {
+      using Value = std::decay_t<decltype(value)>;
+      if (name != setting.substr(0, sign)) return;
+      known = true;
+      if constexpr (std::is_arithmetic_v<Value>) value = static_cast<Value>(std::stoi(given));
+      if constexpr (std::is_same_v<Value, std::string>) value = given;
+    });
+    EXPECT_TRUE(known) << setting;
+  }
+}
+
+void note(const std::string& remark) { remarks += "; " + remark; }
+
+void playTable(const std::string& table, const Acts& acts) {
+  Acts all = everyTablesActs();
+  all.insert(acts.begin(), acts.end());
+  for (const std::string& row : split(table, '\n')) {
+    if (!trimmed(row).empty() && trimmed(row).substr(0, 2) != "//") playRow(row, all);
+  }
 }
 
 Piece& entryOf(char letter) {
@@ -201,7 +319,7 @@ void lay(const std::string& rows, const std::string& due) {
       cell.occupied = cell.tallied = True;
       cell.column = column;
       cell.y = floorOf(row);
-      cell.expiry = due.find(letter) != std::string::npos ? 0 : letter == 'D' ? -1 : 1000000000;
+      cell.expiry = due.find(letter) != std::string::npos ? 0 : letter == 'D' ? -1 : never;
     }
     column = static_cast<i16>(letter == '/' ? 0 : column + 1);
     row = static_cast<i16>(letter == '/' ? row - 1 : row);
@@ -251,8 +369,6 @@ std::string stateOf(const Piece& piece) {
   return all;
 }
 
-std::string flight() { return pieces(stateOf, ", "); }
-
 std::string heard() {
   std::string all;
   const Names sounds = std::exchange(fake::sounds, {});
@@ -275,34 +391,38 @@ std::string ticker() {
 }
 
 std::string outcome() {
-  std::string all = board();
+  std::string all;
   const auto add = [&](const std::string& word, const std::string& what) {
     if (!what.empty()) all += "; " + word + (what[0] == ' ' ? "" : " ") + what;
   };
-  const auto place = [](const Piece& piece) {
-    return std::string(1, letterOf(piece)) + std::to_string(piece.column);
-  };
-  const auto count = [&](const std::string& word, i32 number, i32 none) {
-    if (number != none) add(word, std::to_string(number));
-  };
-  add("falls", pieces(place, " "));
-  add("pops", popups());
-  count("impacts", impactsUpper + 1, 0);
-  add("zaps", zapKinds());
+  std::string falling, armed, points, kinds;
+  for (const Piece& piece : fallingPieces) falling += " " + fallingText(piece);
+  for (const Row& row : playfield) {
+    for (const Cell& cell : row.cells) {
+      if (cell.occupied != True || cell.expiry <= 0 || cell.expiry == never) continue;
+      armed += std::string(" ") + letterOf(cell) + std::to_string(cell.expiry - gameTick());
+    }
+  }
+  for (const ScorePopup& popup : scorePopups) points += " " + std::to_string(popup.points);
+  for (const Zap& zap : zaps) kinds += zap.horizontal == True ? "h" : "v";
+  const std::string rows = board();
+  if (rows != boardBefore) all = rows.empty() ? "; -" : "; " + rows;
+  add("falls", falling);
+  add("arms", armed);
+  add("pops", points);
+  add("impacts", impacts.empty() ? "" : std::to_string(impacts.size()));
+  add("zaps", kinds);
   add("hears", heard());
   add("says", ticker());
-  count("score", score, 0);
-  count("bank", bank, 0);
-  count("notes", notesCollected, 0);
-  count("queued", pendingSpawns, 0);
-  count("btypes", bTypeLeft, 0);
-  count("sum", pythagoreanSum, 0);
-  count("goal", goalPieceCount, -1);
-  count("avoid", avoidLeft, -1);
-  count("land", landLeft, -1);
-  count("row", selectedRow, 0);
-  count("over", gameOver, False);
-  return all;
+  for (const auto& [name, value] : singles()) {
+    if (value != before[name]) add(name, value);
+  }
+  EXPECT_EQ((Numbers{fallingPiecesUpper, scorePopupsUpper, impactsUpper, zapsUpper, tickerUpper}),
+            (Numbers{static_cast<i32>(fallingPieces.size()) - 1,
+                     static_cast<i32>(scorePopups.size()) - 1, static_cast<i32>(impacts.size()) - 1,
+                     static_cast<i32>(zaps.size()) - 1, static_cast<i32>(tickerLines.size()) - 1}));
+  all += remarks;
+  return all.empty() ? "" : all.substr(2);
 }
 
 void choose(const std::string& mode, const std::string& level) {
@@ -313,9 +433,11 @@ void choose(const std::string& mode, const std::string& level) {
 
 Names drawn() { return std::exchange(fake::drawn, {}); }
 
-void press(const std::vector<i32>& scanCodes, u32 wait) {
+void press(const std::string& keys, u32 wait) {
   fake::clockNow += wait;
-  fake::pressKeys(scanCodes);
+  std::vector<i32> codes;
+  for (const std::string& key : split(keys, '+')) codes.push_back(keyCodes.at(key));
+  fake::pressKeys(codes);
 }
 
 Names logged() {

@@ -63,8 +63,6 @@ std::string board();
 
 // Column, y, velocity and bounces: "1 at 3 520 -8 5".
 std::string stateOf(const Piece& piece);
-// All that fall.
-std::string flight();
 
 // Sounds since the last call without their "_": "slam01*2 coin01".
 std::string heard();
@@ -72,9 +70,30 @@ std::string heard();
 // What runs on the ticker; "?" for a character without a picture.
 std::string ticker();
 
-// All that a step has done, what is empty left out: "S1.1S; falls 21 32; pops 10; impacts 1; zaps
-// hv; hears slam01*2; says VICTORY!; score 5000". `falls`: letters and columns.
+// Takes down a remark for the outcome.
+void note(const std::string& remark);
+
+// All that has happened since `lay` and the settings, in parts with "; " between them, those left
+// out that tell nothing:
+//   S1.1S                    the board, if it has changed; "-" for an empty one
+//   falls G3@55000 12:435,0,4  letter and column of what falls; a timer's length or a Calculator's
+//                            value; y, velocity and bounces of what hasn't just been spawned
+//   arms C12000              timers at rest that have been set
+//   pops 10 impacts 1 zaps hv hears slam01*2 says VICTORY!
+//   score 5000               each variable of the game that has another value
+//   and remarks
 std::string outcome();
+
+// Plays a table, one case in a row: the board and the letters whose timers have run out, then
+// settings of the game's variables, draws ("~5/1000", "~0.75") and acts ("drop:W,3"), then the
+// outcome. Acts of every table: drop:letter,column,y,velocity,bounces; press:keys, with "+" between
+// them; wait:ms; rest:frames.
+using Words = std::vector<std::string>;
+using Acts = std::map<std::string, std::function<void(const Words&)>>;
+void playTable(const std::string& table, const Acts& acts = {});
+
+// Sets variables of the game: "goalScore=50 landOn=-1".
+void set(const std::string& settings);
 
 // Selects a mode and the level of file 7 on the page of the new game.
 void choose(const std::string& mode, const std::string& level);
@@ -83,13 +102,9 @@ void choose(const std::string& mode, const std::string& level);
 Names drawn();
 
 // A key event, well after the last one.
-void press(const std::vector<i32>& scanCodes, u32 wait = 1000);
+void press(const std::string& keys, u32 wait = 1000);
 
 // The entries of the log, without their times.
 Names logged();
-
-// Scan codes.
-constexpr i32 keyEscape = 1, key1 = 2, key2 = 3, key3 = 4, key4 = 5, keyP = 25, keyN = 49,
-              keySpace = 57, keyUp = 200, keyLeft = 203, keyRight = 205, keyDown = 208;
 
 }  // namespace glonks

@@ -133,7 +133,7 @@ TEST_F(LoopTest, PendingSpawnsComeAfterThePhysicsOfTheirFrameAndWhatFallsIsScann
   drop('U', 5, 519, 3, 4).expiry = 0;
   run(play, 27, 54, [](i32 now) {
     if (now == 27) {
-      EXPECT_EQ(outcome().substr(0, 14), "....D; pops 10");
+      EXPECT_EQ(board() + std::to_string(scorePopups.size()), "....D2");
       pendingSpawns = 3;
     }
     if (now == 54) {
@@ -183,7 +183,7 @@ TEST_F(LoopTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {
     ++passes;
     fake::screenIsLost = passes >= 100 && passes < 300;
     if (passes >= 101 && passes < 300) shown.insert(fake::picturesShown);
-    if (passes == 310) fake::pressKeys({keyP});
+    if (passes == 310) press("P", 0);
   });
   EXPECT_EQ(shown.size(), 1U);
   EXPECT_NEAR(static_cast<double>(tickBase), 210, 2);
@@ -191,58 +191,40 @@ TEST_F(LoopTest, LostScreenPausesAndTheGameGoesOnWhereItWas) {
 }
 
 TEST_F(LoopTest, LevelsAreDecidedByTheirGoalsAndTimers) {
-  const auto survive = [](i16 minutes, i16 seconds) {
-    surviveOn = True;
-    surviveMinutes = minutes;
-    surviveSeconds = seconds;
-  };
-  const auto limit = [](i16 minutes, i16 seconds) {
-    limitOn = True;
-    limitMinutes = minutes;
-    limitSeconds = seconds;
-  };
-  // Counts of one kind or another, until a time.
-  const auto pieces = [](i32 now) { goalPieceCount = now < 2000 ? 1 : 0; };
-  const auto landings = [](i32 now) { landLeft = now < 3000 ? 1 : 0; };
-  const auto losses = [](i32 now) {
-    avoidLeft = now < 4000 ? 1 : 0;
-    score = now < 4000 ? 0 : 50;
-  };
-  const auto points = [](i32 now) { score = now < 200000 ? 0 : 50; };
-  const auto nothing = [](i32) {};
   const struct {
-    const char* name;
-    Action setUp;
-    std::function<void(i32)> during;
+    const char* settings;
+    i32 later;  // ms at which `change` happens
+    const char* change;
     i32 at;
     const char* words;
   } cases[] = {
-      {"no goal", [] {}, nothing, 500, "VICTORY!"},
-      {"piece goal", [] { goalPieceName = "Glonk"; }, pieces, 2500, "VICTORY!"},
-      {"no piece goal", [] { goalPieceName = "Nothing"; }, pieces, 500, "VICTORY!"},
-      {"score by time points", [] { goalScore = 3; }, nothing, 11000, "VICTORY!"},
-      {"land goal", [] { landOn = True; }, landings, 3500, "VICTORY!"},
-      {"avoid goal", [] { avoidOn = True, goalScore = 50; }, losses, 4500, "FAILED!"},
-      {"time limit", [&] { limit(1, 1), goalScore = 999; }, nothing, 119000, "TIME EXPIRED"},
-      {"survival", [&] { survive(1, 1); }, nothing, 119000, "VICTORY!"},
-      {"survival and an open goal", [&] { survive(1, 1), goalScore = 50; }, nothing, 500,
-       "VICTORY!"},
-      {"survival, seconds below 0", [&] { survive(1, -5); }, nothing, 60500, "VICTORY!"},
-      {"limit, seconds below 0", [&] { limit(0, -5); }, nothing, 59000, "TIME EXPIRED"},
-      {"limit without minutes", [&] { limit(-1, 5), goalScore = 50; }, points, 200500, "VICTORY!"},
-      {"both timers", [&] { limit(2, 1), survive(1, 1); }, nothing, 179500, "TIME EXPIRED"},
+      {"goalScore=-1", 0, "", 500, "VICTORY!"},
+      {"goalPieceName=Glonk goalPieceCount=1", 2000, "goalPieceCount=0", 2500, "VICTORY!"},
+      {"goalPieceName=Nothing goalPieceCount=1", 0, "", 500, "VICTORY!"},
+      {"goalScore=3", 0, "", 11000, "VICTORY!"},
+      {"landOn=-1 landLeft=1", 3000, "landLeft=0", 3500, "VICTORY!"},
+      {"avoidOn=-1 avoidLeft=1 goalScore=50", 4000, "avoidLeft=0 score=50", 4500, "FAILED!"},
+      {"limitOn=-1 limitMinutes=1 goalScore=999", 0, "", 119000, "TIME EXPIRED"},
+      {"surviveOn=-1 surviveMinutes=1 surviveSeconds=1", 0, "", 119000, "VICTORY!"},
+      {"surviveOn=-1 surviveMinutes=1 goalScore=50", 0, "", 500, "VICTORY!"},
+      {"surviveOn=-1 surviveMinutes=1 surviveSeconds=-5", 0, "", 60500, "VICTORY!"},
+      {"limitOn=-1 limitMinutes=0 limitSeconds=-5", 0, "", 59000, "TIME EXPIRED"},
+      {"limitOn=-1 limitSeconds=5 goalScore=90", 200000, "score=90", 200500, "VICTORY!"},
+      {"limitOn=-1 limitMinutes=2 limitSeconds=1 surviveOn=-1 surviveSeconds=1", 0, "", 179500,
+       "TIME EXPIRED"},
   };
-  for (const auto& [name, setUp, during, at, words] : cases) {
+  for (const auto& [settings, later, change, at, words] : cases) {
     newGame();
-    setUp();
-    const Decision decision = playLevel(during);
-    EXPECT_EQ(decision.words, words) << name;
-    EXPECT_NEAR(decision.at, at, 1500) << name;
-    const Flag won = flagOf(*words == 'V');
-    EXPECT_EQ(levelWon, won) << name;
-    EXPECT_EQ(holds(heard(), "clapping"), won == True) << name;
+    set(settings);
+    const Decision decision = playLevel([&](i32 now) {
+      if (now >= later && now < later + 500) set(change);
+    });
+    EXPECT_EQ(decision.words, words) << settings;
+    EXPECT_NEAR(decision.at, at, 1500) << settings;
+    EXPECT_EQ(levelWon, flagOf(*words == 'V')) << settings;
+    EXPECT_EQ(holds(heard(), "clapping"), *words == 'V') << settings;
     const auto length = static_cast<double>(decision.words.size());
-    EXPECT_NEAR(decision.framesToEnd, std::ceil((1000 + 50 * (length - 1)) / 14), 1) << name;
+    EXPECT_NEAR(decision.framesToEnd, std::ceil((1000 + 50 * (length - 1)) / 14), 1) << settings;
   }
 }
 

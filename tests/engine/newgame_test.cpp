@@ -1,6 +1,8 @@
 #include <sstream>
 
 #include "game/modes.h"
+#include "present/keys.h"
+#include "present/pause.h"
 #include "present/screen/fconsole.h"
 #include "storage/files/log.h"
 #include "tests/engine/enginetest.h"
@@ -78,7 +80,7 @@ TEST_F(NewGameTest, ScreenInputAndMusicAreTakenStepByStepAndGivenBack) {
   for (i32 game = 0; game < 2; ++game) {
     logEnabled = True;
     openLog();
-    fConsole_Show([] {}, nullptr);
+    fConsole_Show(readKeys, pauseByCloseBox);
     gameOver = False;
     initDX();
     EXPECT_EQ((Numbers{fake::cursorShown, fake::musicReady}), (Numbers{0, 1}));

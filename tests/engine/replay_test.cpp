@@ -17,9 +17,9 @@ class ReplayTest : public EngineTest {
  protected:
   struct Script {
     std::string name;
-    std::string level;                   // plain text
-    std::vector<std::vector<i32>> keys;  // pressed in turn, one every 180 ms
-    std::map<i32, Action> events;        // by ms since the first pass
+    std::string level;             // plain text
+    Words keys;                    // pressed in turn, one every 180 ms
+    std::map<i32, Action> events;  // by ms since the first pass
   };
 
   ReplayTest() { ownFolderOfLinks("levels"); }
@@ -77,7 +77,7 @@ class ReplayTest : public EngineTest {
       if (!tickerLines.empty()) everRead_ += ticker() + "\n";
       for (; event != script.events.end() && event->first <= now; ++event) event->second();
       if (now >= nextKey && !script.keys.empty()) {
-        fake::pressKeys(script.keys[pressed++ % script.keys.size()]);
+        press(script.keys[pressed++ % script.keys.size()], 0);
         nextKey += 180;
       }
       if (now < nextNote) return;
@@ -119,16 +119,15 @@ TEST_F(ReplayTest, FreestyleWithEveryItemAndEffect) {
         "Bomb,0,700,729\nCalculator,0,730,759\nDiamond,0,760,779\nShifter,0,780,809\n"
         "Money,0,810,829\nGorgon,0,830,859\nBauble,0,860,879\nBowling Ball,0,880,929\n"
         "Music,0,930,949\nPin,0,950,969\nBType,0,970,979\nRock,1,980,999\n",
-        {{keyLeft},  {keyUp}, {keyLeft},  {key1},    {keyRight},         {keyUp},  {keyLeft},
-         {keyRight}, {key4},  {keyDown},  {keyLeft}, {keyLeft},          {keyUp},  {key3},
-         {keyRight}, {keyUp}, {keyRight}, {key2},    {keyDown, keyLeft}, {keyLeft}},
+        {"Left", "Up",   "Left", "1", "Right", "Up", "Left",  "Right", "4",         "Down",
+         "Left", "Left", "Up",   "3", "Right", "Up", "Right", "2",     "Down+Left", "Left"},
         {{0, [] { score = 59990, pythagoreanSum = 1480, bTypeLeft = 1; }},
          {13000, [=] { layDue("C"); }},
          {17000, [=] { layDue("..121/..3B4.TP/.R1PRHD/S22SRMH/R3NGCcU"); }},
          {20500, [=] { layDue(".121/.3B4"); }},
          {25000, [] { lay("UUUUUUUUUU"), dropItem("Bowling Ball"); }},
          {40000, [] { lay(".2T2/.S.S/S4444SSMS"), bTypeLeft = 1; }},
-         {150000, [] { fake::pressKeys({keyEscape}); }}}});
+         {150000, [] { press("Escape", 0); }}}});
   expectRecord("freestyle");
   for (const std::string& sample : fake::samplesLoaded) {
     const bool ofOthers = sample == "_gameover" || holds(sample, "clapping");
@@ -162,10 +161,10 @@ TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {
       {"given up",
        "1500\nEscape\nNext\n8\n99,Bomb,-1,-1,-1,-1,-1,-1,-1,-1,-1",
        {},
-       {{15000, [] { fake::pressKeys({keyEscape}); }}}}};
+       {{15000, [] { press("Escape", 0); }}}}};
   for (Script script : scripts) {
     script.level += pieces;
-    script.keys = {{keyLeft}, {keyUp}, {keyLeft}, {keyRight}, {keyUp}, {keyDown}, {keyLeft}};
+    script.keys = {"Left", "Up", "Left", "Right", "Up", "Down", "Left"};
     play("Arcade", script);
     EXPECT_EQ(levelWon == True, script.name.substr(0, 3) == "won") << script.name;
   }
