@@ -47,7 +47,7 @@ void runFrame(const LoopMode& mode, i32& nextFrame) {
   runAll(mode.endOfFrame, mode.run);
 }
 
-// Counted from now, with no making up.
+// Counted from now: what is late isn't made up for.
 void payTimePoints() {
   if (nextPointsTick >= gameTick()) return;
   nextPointsTick = gameTickIn(timePointsPeriod);

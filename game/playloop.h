@@ -11,7 +11,7 @@ using Statement = void (*)();
 // How a loop runs a statement that may fail.
 using Runner = void (*)(Statement statement);
 
-// What a mode's loop does in its own way.
+// What a mode's loop does in its own way. The lists may be empty.
 struct LoopMode {
   Runner run = nullptr;                     // all statements go through it
   std::vector<Statement> start = {};        // right after gameOver has been cleared

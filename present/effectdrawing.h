@@ -2,8 +2,8 @@
 
 namespace glonks {
 
-// Draw the effects of their lists on backBuffer and age them by one frame. drawPopups pays the
-// points of popups that have climbed out into `score`.
+// Each draws the effects of its list on backBuffer and ages them by one frame. drawPopups also pays
+// the points of popups that have climbed out into `score`.
 void drawImpacts();
 void drawZaps();
 void drawPopups();

@@ -15,6 +15,8 @@ constexpr Rect whole{};
 constexpr i32 pointerLeft = 10;
 constexpr i32 pointerTop = 620;  // at row 0
 
+void drawPieceOf(const Piece& piece) { drawPiece(piece.imageIndex, piece.column, piece.y); }
+
 }  // namespace
 
 void drawPiece(i16 imageIndex, i16 column, i16 y) {
@@ -25,15 +27,8 @@ void drawPiece(i16 imageIndex, i16 column, i16 y) {
 }
 
 void drawField() {
-  for (const Row& row : playfield) {
-    for (const Cell& cell : row.cells) {
-      if (cell.occupied == True) drawPiece(cell.imageIndex, cell.column, cell.y);
-    }
-  }
-  for (i32 i = 0; i <= fallingPiecesUpper; ++i) {
-    const Piece& piece = fallingPiece(i);
-    drawPiece(piece.imageIndex, piece.column, piece.y);
-  }
+  forEachPieceAtRest(drawPieceOf);
+  for (const Piece& piece : fallingPieces) drawPieceOf(piece);
 }
 
 void drawPointer() {

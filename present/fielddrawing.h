@@ -2,7 +2,7 @@
 
 #include "base/types.h"
 
-// Module mPaint: what one frame of play shows of the field. All of it draws on backBuffer.
+// What one frame of play shows of the field. All of it is drawn on backBuffer.
 namespace glonks {
 
 // The picture of a catalogue slot in a column, `y` pixels below the field's top. A slot without a

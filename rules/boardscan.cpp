@@ -35,13 +35,9 @@ struct Collected {
 
 bool hasExpired(const Cell& cell) { return cell.expiry < gameTick(); }
 
-void popUp(const Cell& cell, i32 points) {
-  pushPopup(effectX(cell.column), effectY(cell.y), points);
-}
-
 void payDiamond(Cell& cell) {
   if (cell.expiry == diamondPaid) return;
-  popUp(cell, diamondPoints);
+  popupAt(cell, diamondPoints);
   cell.expiry = diamondPaid;
 }
 
@@ -55,7 +51,7 @@ void addToPythagoreanSum(i32 value) {
 }
 
 void payCalculator(Cell& cell) {
-  popUp(cell, cell.value);
+  popupAt(cell, cell.value);
   armTimer(cell);
   (cell.value > 0 ? _calculate02 : _calculate01)->Play(0);
   addToPythagoreanSum(cell.value);
@@ -66,12 +62,12 @@ void payBauble(Cell& cell) {
   cell.occupied = False;
   cell.alive = False;
   _bauble02->Play(0);
-  popUp(cell, baublePoints);
+  popupAt(cell, baublePoints);
   settlePieces();
 }
 
-// What a piece does follows from its flags, each looked at anew. An oddity that is kept: a piece
-// that one of these steps has taken off the board goes through those behind it all the same, and is
+// What a piece does follows from its flags, each looked at in turn. An oddity that is kept: a piece
+// that one of these steps has taken off the board goes through the later ones all the same, and is
 // left out of the Slammers only.
 void scanCell(i16 row, i16 column, Collected& collected) {
   Cell& cell = cellAt(row, column);

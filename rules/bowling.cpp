@@ -10,9 +10,7 @@ namespace glonks {
 void bowlOver(i16 row, i16 column) {
   _bowling01->Play(0);
   removePiece(row, column);
-  // The cell that has just been emptied still holds its y.
-  const Cell& cell = cellAt(row, column);
-  pushImpact(effectX(column), effectY(cell.y), True);
+  impactAt(cellAt(row, column), True);  // emptied, it still holds its place
 }
 
 void openFullColumn(i16 column) {

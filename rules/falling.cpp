@@ -34,7 +34,8 @@ i16 firstFreeRow(i16 column) {
   for (i16 row = 0; row < rowCount; ++row) {
     if (cellAt(row, column).occupied == False) return row;
   }
-  return 0;  // an oddity that is kept: a piece falls through a full column before the game is lost
+  // An oddity that is kept: a piece falls through a full column before the game is lost.
+  return 0;
 }
 
 void movePieces() {

@@ -31,11 +31,7 @@ void turnAllToFruit() {
     turnToFruit(catalogEntry(slot));
   }
   for (Piece& piece : fallingPieces) turnToFruit(piece);
-  for (Row& row : playfield) {
-    for (Cell& cell : row.cells) {
-      if (cell.occupied == True) turnToFruit(cell);
-    }
-  }
+  forEachPieceAtRest(turnToFruit);
 }
 
 }  // namespace

@@ -16,11 +16,9 @@ void dropItem(const std::string& name) {
 
 void detonate() {
   _detonate->Play(0);
-  for (Row& row : playfield) {
-    for (Cell& cell : row.cells) {
-      if (cell.occupied == True && cell.isBomb == True) cell.expiry = 0;
-    }
-  }
+  forEachPieceAtRest([](Cell& cell) {
+    if (cell.isBomb == True) cell.expiry = 0;
+  });
 }
 
 }  // namespace glonks

@@ -45,7 +45,7 @@ void pay(const Cell& cell) {
     _music01->Play(0);
     notesCollected = clamped<i32>(i64{notesCollected} + 1);
   } else {
-    pushPopup(effectX(cell.column), effectY(cell.y), clamped<i32>(std::abs(i64{cell.value})));
+    popupAt(cell, clamped<i32>(std::abs(i64{cell.value})));
   }
 }
 
@@ -58,7 +58,7 @@ void knockOverByChance(i16 row, i32 column) {
 // is still there and then falls, pays and counts twice.
 void spread(i16 row, i16 column) {
   const Cell& pin = cellAt(row, column);
-  pushImpact(effectX(pin.column), effectY(pin.y), False);
+  impactAt(pin, False);
   if (row > 0) {
     const auto below = static_cast<i16>(row - 1);
     removePiece(below, column);
@@ -74,7 +74,7 @@ bool isOnBoard(i32 row, i32 column) {
 }
 
 // Removes the bombable neighbours of a cell, another Bomb as a plain piece that doesn't explode.
-// Gives whether Glonks of all varieties were among them.
+// Returns whether Glonks of all varieties were among them.
 bool blast(i16 row, i16 column) {
   std::array<bool, glonkVarieties> taken = {};
   for (i32 i = row - 1; i <= row + 1; ++i) {
@@ -111,9 +111,9 @@ void removePiece(i16 row, i16 column) {
 void explodeBomb(i16 row, i16 column) {
   const Cell& bomb = cellAt(row, column);
   removePiece(row, column);
-  pushImpact(effectX(bomb.column), effectY(bomb.y), False);
+  impactAt(bomb, False);
   // An oddity that is kept: with this and its removal a Bomb pays its value twice.
-  pushPopup(effectX(bomb.column), effectY(bomb.y), bomb.value);
+  popupAt(bomb, bomb.value);
   const bool fruitCocktail = blast(row, column);
   settlePieces();
   if (!fruitCocktail) return;

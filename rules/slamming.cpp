@@ -65,7 +65,7 @@ Cell& cellOf(const Elimination& place) { return cellAt(place.row, place.column);
 
 // Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
 // Slammers counts as well. An oddity that is kept: the Slammers themselves aren't looked at, so one
-// that a Bomb has taken behind the scan still closes its segment.
+// that a Bomb has taken since the scan saw it still closes its segment.
 bool isRun(const Segment& segment, Flag horizontal) {
   const Cell& first = cellOf(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
   if (first.occupied != True) return false;

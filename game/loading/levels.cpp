@@ -13,11 +13,14 @@ namespace {
 constexpr i16 levelChannel = 4;
 using Small = std::numeric_limits<i16>;
 
+i16 rounded(const std::string& fieldName, double number) {
+  return static_cast<i16>(
+      roundedField(levelChannel, fieldName, number, Small::min(), Small::max()));
+}
+
 // Minutes are held one less than the file says: the countdown begins at 59 seconds.
 i16 readMinutes(const std::string& fieldName) {
-  const double minutes = leadingNumber(readField(levelChannel, fieldName)) - 1;
-  return static_cast<i16>(
-      roundedField(levelChannel, fieldName, minutes, Small::min(), Small::max()));
+  return rounded(fieldName, leadingNumber(readField(levelChannel, fieldName)) - 1);
 }
 
 i32 readSpawnInterval() {
@@ -38,9 +41,8 @@ void readGoals() {
   levelTitle = readLine(levelChannel, "levelTitle");
   rewardLevelName = readLine(levelChannel, "rewardLevelName");
   pushMessage(levelTitle);
-  const double file = leadingNumber(readLine(levelChannel, "rewardLevelFile"));
-  rewardLevelFile = static_cast<i16>(
-      roundedField(levelChannel, "rewardLevelFile", file, Small::min(), Small::max()));
+  rewardLevelFile =
+      rounded("rewardLevelFile", leadingNumber(readLine(levelChannel, "rewardLevelFile")));
   goalPieceCount = readI16(levelChannel, "goalPieceCount");
   goalPieceName = readField(levelChannel, "goalPieceName");
   goalScore = readI32(levelChannel, "goalScore");
@@ -59,7 +61,7 @@ void readGoals() {
 }
 
 // An oddity that is kept: the two numbers of an entry are read only where a catalogue slot matches.
-// Behind an entry for an unknown piece everything moves up by two fields.
+// After an entry for an unknown piece everything moves up by two fields.
 void readSpawnEntry() {
   const std::string name = readField(levelChannel, "name of a spawn entry");
   const i16 variety = readWholeI16(levelChannel, "variety of spawn entry \"" + name + "\"");

@@ -15,7 +15,7 @@ Sample loadSample(const std::string& name) {
   return ds->CreateSoundBufferFromFile("\\sounds\\" + name + ".wav", sampleDesc, sampleFormat);
 }
 
-// "_frog" gives _frog01, _frog02 ...
+// "_frog" stands for _frog01, _frog02 ...
 void loadSampleSet(std::array<Sample, 3>& samples, const std::string& name) {
   for (std::size_t i = 0; i < samples.size(); ++i) {
     samples[i] = loadSample(name + "0" + plainNumber(static_cast<i64>(i) + 1));

@@ -12,7 +12,7 @@ namespace {
 constexpr i16 pieceChannel = 3;
 constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
 
-// The fields in the order of the file. Gives the picture's name.
+// Reads the fields in the order of the file. Returns the picture's name.
 std::string readPiece(i16 channel, Piece& piece) {
   piece.name = readField(channel, "name");
   if (piece.name.empty()) badField(channel, "name", "is empty.");

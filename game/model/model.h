@@ -11,7 +11,7 @@
 
 // The records and game-wide variables of the play engine: one game at a time, on one thread. A game
 // tick is a value of gameTick(): milliseconds of game time. An upper bound of -1 means an empty
-// list. "Reset" is the value that initVariables gives at the start of each game.
+// list. "Reset" is the value that initVariables sets at the start of each game.
 namespace glonks {
 
 inline constexpr i16 rowCount = 7;       // row 0 at the bottom
@@ -114,6 +114,16 @@ inline std::array<Row, rowCount> playfield;
 inline Row& rowAt(i32 row) { return playfield[static_cast<std::size_t>(row)]; }
 inline Cell& cellAt(i32 row, i32 column) { return rowAt(row)[column]; }
 
+// All cells in which a piece rests, from the bottom row up and from left to right.
+template <typename Action>
+void forEachPieceAtRest(Action action) {
+  for (Row& row : playfield) {
+    for (Cell& cell : row.cells) {
+      if (cell.occupied == True) action(cell);
+    }
+  }
+}
+
 inline constexpr i16 catalogSlots = 20;
 inline constexpr i16 negativeCalculatorSlot = 19;  // a picture only, never spawned
 inline std::array<Piece, catalogSlots> pieceCatalog;
@@ -178,7 +188,7 @@ inline void payScore(i64 points) { score = clamped<i32>(score + points); }
 // Takes one off a count; it stays at the end of its 16 bits.
 inline void countDown(i16& count) { count = clamped<i16>(i32{count} - 1); }
 
-// What "no goal" reads in the level fields.
+// How "no goal" reads in the level fields.
 inline const std::string noName = "-1";
 
 inline std::string levelTitle;              // reset: empty
@@ -200,7 +210,7 @@ inline Flag landOn = False;  // pieces named landName that must still land;
 inline i16 landLeft = -1;    // reset: False, -1, "-1"
 inline std::string landName = noName;
 inline i32 minuteStart = 0;     // game tick at which a timer's minute began; reset: 0
-inline Flag levelOver = False;  // the outcome is decided; set by the level's loading
-inline Flag levelWon = False;   // the level was won; set by the level's loading
+inline Flag levelOver = False;  // the outcome is decided; cleared with the level's loading
+inline Flag levelWon = False;   // the level was won; cleared with the level's loading
 
 }  // namespace glonks

@@ -8,7 +8,7 @@
 #include "present/services/directsound.h"
 #include "present/services/surface.h"
 
-// Samples and pictures of a game. initVariables loads them all anew for each game; a sample bears
+// Samples and pictures of a game. initVariables loads them all again for each game; a sample bears
 // the name of its wave file.
 namespace glonks {
 
@@ -41,12 +41,12 @@ inline Surface frameSurface;                           // the mode's, 1024 by 76
 inline std::array<Surface, glyphCount> glyphSurfaces;  // 50 by 50 each
 inline std::array<Surface, 5> frogPictures;            // 100 by 100 each
 inline Surface explosionSurface;                       // 300 by 300
-// Plates of a theme, numbered from 1, and where one lies.
+inline Surface plateSurface;  // the theme's, 500 by 350, without colour key
+
+// The plates of a theme, numbered from 1, and where one lies.
 inline constexpr i16 platesInTheme = 5;
 inline std::string platePath(const std::string& theme, i32 number) {
   return "\\themes\\" + theme + "\\plate_0" + plainNumber(number) + ".bmp";
 }
-
-inline Surface plateSurface;  // the theme's, 500 by 350, without colour key
 
 }  // namespace glonks

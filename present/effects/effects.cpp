@@ -25,4 +25,12 @@ void pushPopup(i16 x, i16 y, i32 points) {
   grow(scorePopups, scorePopupsUpper) = {x, y, clamped<i16>(points)};
 }
 
+void impactAt(const Piece& piece, Flag silent) {
+  pushImpact(effectX(piece.column), effectY(piece.y), silent);
+}
+
+void popupAt(const Piece& piece, i32 points) {
+  pushPopup(effectX(piece.column), effectY(piece.y), points);
+}
+
 }  // namespace glonks

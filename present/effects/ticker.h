@@ -10,7 +10,7 @@ namespace glonks {
 // The picture of a character, upper and lower case alike; none for one without a picture.
 Surface glyphFor(char character);
 
-// Puts a text on the ticker, in the place of the one that runs.
+// Puts a text on the ticker, in place of the one that is running.
 void pushMessage(const std::string& text);
 
 }  // namespace glonks

@@ -5,7 +5,7 @@
 #include "base/types.h"
 #include "present/services/directx.h"
 
-// Module mInit, display: takes the screen, input and sound for one game, and gives them back.
+// Takes the screen, input and sound for one game, and gives them back.
 namespace glonks {
 
 // All filled by initDX. destroy empties dx and dd; the next initDX replaces the others.

@@ -22,7 +22,7 @@ void attempt(Action action) {
   }
 }
 
-// Hands each line to the system at once: the last one of a log that breaks off tells which step
+// Hands each line to the system at once: the last line of a log that breaks off shows which step
 // failed.
 void writeEntry(const std::string& line) {
   attempt([&] {
