@@ -118,7 +118,7 @@ TEST_F(DataFilesTest, ArcadeLevelFillsEveryField) {
   const std::pair<std::string, Numbers> cases[] = {
       {"1,1,2,0\n0,x\n0,x\n", {True, True, True, True}},
       {"2,-5,0,1\n-1,x\n5,x\n", {True, True, False, True}},
-      {"0,0,1,0\n3,x\n-1,x\n", {False, False, True, False}}};
+      {"1,0,1,0\n3,x\n-1,x\n", {False, False, True, False}}};
   for (const auto& [goals, on] : cases) {
     levelFrom("1000\nT\nN\n1\n-1,-1,-1\n" + goals, True);
     EXPECT_EQ((Numbers{limitOn, surviveOn, avoidOn, landOn}), on) << goals;

@@ -35,7 +35,8 @@ TEST_F(DrawingTest, FieldIsDrawnFromTheBottomLeftAndWhatFallsOverIt) {
             (Names{"fill 0 whole", "plate_01 500x350 to 853x610 at 81,80 opaque"}));
   EXPECT_EQ(drawnBy(layFrame), Names{"frame whole"});
   showLoadingLine(loadLoadingPicture(), "Playing...");
-  EXPECT_EQ(drawn(), (Names{"loading whole opaque", "Playing... at 10,10", "flip"}));
+  EXPECT_EQ(drawn(),
+            (Names{"load loading", "loading whole opaque", "Playing... at 10,10", "flip"}));
 }
 
 TEST_F(DrawingTest, ImpactsGrowForSixFramesAndZapsSwellForThree) {
@@ -135,38 +136,22 @@ TEST_F(DrawingTest, CountersAndGoalsStandInTheirOrder) {
             acts);
 }
 
-TEST_F(DrawingTest, ParadeSendsTwentyFrogsDownTheScreenAndStops) {
+TEST_F(DrawingTest, FrogsThatLeaveStartAnewUntilTheBonusIsOver) {
   frogBonusUntil = gameTick() + 1;
-  const auto step = [](Draws draws) {
-    fake::draws = std::move(draws);
-    frogParade();
-    EXPECT_TRUE(fake::draws.empty());
-    return drawn();
-  };
-  const double silent = fake::drawOf(3, 200);
-  // x, picture 5, delay 5, speed 8
-  EXPECT_EQ(step({fake::drawOf(500, 2000), 0.9, 0.9, 0.9, 0}), Names{"frog05 100x100 at 500,0"});
-  EXPECT_EQ(step({fake::drawOf(800, 2000), 0.9, 0, 0, silent}),
-            (Names{"frog05 100x100 at 492,8", "frog05 100x100 at 800,0"}));
-  for (i32 i = 2; i < 20; ++i) step({0.5, 0, 0, 0, silent});
-  // A picture stays for its delay and one frame: 6 of the first, 5 of the second.
-  EXPECT_EQ((Numbers{frogs[0].picture, frogs[1].picture, frogs[19].speed, frogs[19].x}),
-            (Numbers{3, 3, 7, 993}));
+  frogs.assign(20, {1, 1900, 0, 9, 0, 1});
+  frogsUpper = 19;
   frogs[0] = {2, 8, 0, 9, 0, 8};      // goes on at the very edge
-  frogs[1] = {2, 7, 0, 9, 0, 8};      // leaves by the left edge and starts anew
+  frogs[1] = {2, 7, 0, 9, 0, 8};      // leaves by the left edge
   frogs[2] = {2, 300, 762, 9, 0, 7};  // leaves by the bottom
-  frogs[3] = {2, 300, 761, 9, 0, 7};  // does not yet
-  frogs.resize(4);
-  for (i32 i = 4; i < 20; ++i) frogs.push_back({1, 1900, 0, 9, 0, 1});
-  const Names shown = step({fake::drawOf(1999, 2000), fake::drawOf(3, 2000), 0.014});
+  frogs[3] = {5, 300, 761, 4, 4, 7};  // does not yet, and turns its picture
+  fake::draws = {fake::drawOf(1999, 2000), fake::drawOf(3, 2000), fake::drawOf(2, 200)};
+  const Names shown = drawnBy(frogParade);
   EXPECT_EQ((Names{shown[0], shown[1]}),
-            (Names{"frog02 100x100 at 8,0", "frog02 100x100 at 300,761"}));
-  EXPECT_EQ((Numbers{frogs[1].x, frogs[1].y, frogs[2].x, frogs[2].y, frogs[2].picture}),
-            (Numbers{1999, 0, 3, 0, 2}));
-  fake::clockNow += 1;  // the bonus is over: no sound, no new start
-  step({});
-  EXPECT_EQ((Numbers{frogs[0].x, frogsUpper}), (Numbers{-8, 19}));
-  EXPECT_EQ(heard(), "frog01 frog03");
+            (Names{"frog02 100x100 at 8,0", "frog01 100x100 at 300,761"}));
+  EXPECT_EQ((Numbers{frogs[1].x, frogs[1].y, frogs[2].x, frogs[2].y}), (Numbers{1999, 0, 3, 0}));
+  fake::clockNow += 1;  // no sound, no new start
+  frogParade();
+  EXPECT_EQ(std::to_string(frogs[0].x) + heard(), "-8frog03");
 }
 
 TEST_F(DrawingTest, ApplauseMixesClappingByItsDraw) {

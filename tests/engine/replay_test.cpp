@@ -32,6 +32,20 @@ class ReplayTest : public EngineTest {
     return mixed;
   }
 
+  // All that a game has loaded, and its loading screens.
+  void noteLoaded() {
+    for (const std::string& sample : fake::samplesLoaded) trace_ << sample << " ";
+    for (const std::string& line : fake::drawn) trace_ << "\n" << line;
+    for (const auto& [name, value] : gameState()) trace_ << "\n" << name << ": " << value;
+    trace_ << "\n";
+  }
+
+  // What has been drawn last, at least a frame, line by line.
+  void noteFrame() {
+    const std::size_t skipped = std::max<std::size_t>(fake::drawn.size(), 60) - 60;
+    for (std::size_t i = skipped; i < fake::drawn.size(); ++i) trace_ << fake::drawn[i] << "\n";
+  }
+
   void noteState(i32 now) {
     Names pieces;
     const auto add = [&](const Piece& piece) {
@@ -44,7 +58,6 @@ class ReplayTest : public EngineTest {
       }
     }
     for (const Piece& piece : fallingPieces) add(piece);
-    everHeard_.insert(fake::sounds.begin(), fake::sounds.end());
     const Names sounds = std::exchange(fake::sounds, {});
     std::string state = outcome();
     for (std::size_t at = 0; (at = state.find("; ", at)) != std::string::npos;) {
@@ -67,14 +80,18 @@ class ReplayTest : public EngineTest {
     fake::useGenerator();
     itemStock.fill(9);
     choose(mode, script.name);
+    const bool first = trace_.tellp() == 0;
+    trace_ << "LEVEL " << script.name << "\n";
     i32 start = -1, nextKey = 0, nextNote = 0;
     std::size_t pressed = 0;
     auto event = script.events.begin();
     fake::messages = [&] {
-      if (start < 0) start = gameTick();
+      if (start < 0) {
+        start = gameTick();
+        if (first) noteLoaded();
+      }
       fake::clockNow += 27;
       const i32 now = gameTick() - start;
-      if (!tickerLines.empty()) everRead_ += ticker() + "\n";
       for (; event != script.events.end() && event->first <= now; ++event) event->second();
       if (now >= nextKey && !script.keys.empty()) {
         press(script.keys[pressed++ % script.keys.size()], 0);
@@ -84,8 +101,8 @@ class ReplayTest : public EngineTest {
       noteState(now);
       nextNote += 10000;
     };
-    trace_ << "LEVEL " << script.name << "\n";
     main_BtnRun_Click();
+    noteFrame();
     noteState(gameTick() - start);
     for (const i16 count : itemStock) trace_ << count << " ";
     trace_ << "\n";
@@ -107,8 +124,6 @@ class ReplayTest : public EngineTest {
   }
 
   std::ostringstream trace_;
-  std::set<std::string> everHeard_;
-  std::string everRead_;
 };
 
 TEST_F(ReplayTest, FreestyleWithEveryItemAndEffect) {
@@ -129,14 +144,6 @@ TEST_F(ReplayTest, FreestyleWithEveryItemAndEffect) {
          {40000, [] { lay(".2T2/.S.S/S4444SSMS"), bTypeLeft = 1; }},
          {150000, [] { press("Escape", 0); }}}});
   expectRecord("freestyle");
-  for (const std::string& sample : fake::samplesLoaded) {
-    const bool ofOthers = sample == "_gameover" || holds(sample, "clapping");
-    EXPECT_TRUE(ofOthers || everHeard_.count(sample) == 1) << sample;
-  }
-  for (const char* words : {"SLAM BONUS!", "FRUIT COCKTAIL BONUS!  5000", "PYTHAGOREAN BONUS!",
-                            "FROG BONUS!", "VICTORY!"}) {
-    EXPECT_TRUE(holds(everRead_, words)) << words;
-  }
 }
 
 TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {

@@ -96,6 +96,7 @@ TEST_F(RulesTest, PiecesFallBounceAndLand) {
   | drop:W,3 rest:31              |
   ...1/...G/...U | drop:W,3 rest:31 | -; pops 10 500 0; impacts 3; hears bowling01*2 gorgon02 bowling01 bauble01; pendingSpawns 3
   ...1/...1/...1/...1/...1/...1/...1 | drop:W,3 rest:31 |
+  ...1      | drop:W,3,500,5 step | -; pops 10; impacts 1; hears bowling01
   ..23/..../...4 | drop:W,3 rest:31 places | ..23//; pops 10; impacts 1; hears bowling01; at 185,450 185,450
   ...1/...1 | drop:W,3,345,4 drop:W,3,519,1 step places | ...1; falls W3:350,5,0; pops 10; impacts 1; hears bowling01; at 185,365 185,365
   )",
@@ -298,6 +299,7 @@ TEST_F(RulesTest, RemovalsPayCountAndSpread) {
   121/3B4  | bomb:0,1 | -; pops 0 0 10 10 10 10 10; impacts 1; hears pop01; says FRUIT COCKTAIL BONUS!  5000 POINTS; score 5000
   )",
             acts());
+  EXPECT_EQ(cellAt(0, 0).name + cellAt(0, 1).name, "");
 }
 
 }  // namespace glonks

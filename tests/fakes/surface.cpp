@@ -113,6 +113,7 @@ Surface DirectDraw7::CreateSurface(const SurfaceDesc& /*desc*/) {
 Surface DirectDraw7::CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc) {
   const std::string name = nativePath(path).stem().string();
   touch(name);
+  fake::drawn.push_back("load " + name);
   std::ifstream file(nativePath(path), std::ios::binary);
   if (!file) throw RuntimeError(ErrorNumber::fileNotFound, "no file " + path);
   file.seekg(18);

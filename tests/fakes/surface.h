@@ -10,7 +10,7 @@
 // surfaces and display.
 namespace glonks::fake {
 
-// What has been drawn on the back buffer, in order: "glonk_01 90x90 at 165,250", "plate_01 500x350
+// What has been loaded and drawn on the back buffer, in order: "load frame", "glonk_01 90x90 at 165,250", "plate_01 500x350
 // to 853x610 at 81,80 opaque", "frame whole", "Playing... at 10,10", "fill 0 whole", "flip".
 inline std::vector<std::string> drawn;
 
