@@ -1,6 +1,7 @@
 #include "base/paths.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 #include "base/text.h"
@@ -19,6 +20,11 @@ std::filesystem::path nativePath(std::string_view path) {
   std::string relative = toUtf8(path.substr(1));
   std::replace(relative.begin(), relative.end(), '\\', '/');
   return folder / std::filesystem::path(std::u8string(relative.begin(), relative.end()));
+}
+
+bool isRegularFile(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(path, error);
 }
 
 }  // namespace glonks

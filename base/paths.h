@@ -16,4 +16,8 @@ const std::filesystem::path& programFolder();
 // taken as it stands.
 std::filesystem::path nativePath(std::string_view path);
 
+// Whether there is a file of stored bytes at a path of the system, or a link to one: no folder,
+// device or pipe, which could be read for ever or not at all.
+bool isRegularFile(const std::filesystem::path& path);
+
 }  // namespace glonks

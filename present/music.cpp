@@ -6,6 +6,7 @@
 #include "base/random.h"
 #include "game/model/model.h"
 #include "present/screen/display.h"
+#include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "storage/files/log.h"
 

@@ -2,10 +2,12 @@
 
 #include <string>
 
-// Inside the services: the one sound device that samples and songs share.
+// The one sound device that samples and songs share.
 namespace glonks {
 
-// Closes the device, if it is open, and opens the default one. Without success the game is silent.
+inline constexpr int voicesAtOnce = 32;  // to begin with; more are added when all of them sound
+
+// Closes the device, if it is open, and opens the default one. If that fails, the game is silent.
 void openAudioDevice();
 
 // Whether there is a device to play on.
@@ -14,7 +16,7 @@ bool hasAudioDevice();
 // Called when the system says that an output device is gone.
 void noteDeviceRemoved();
 
-// Keeps a line for the log until takeSoundNotice fetches it.
-void noteSound(const std::string& notice);
+// What has happened to the device since the last call, as a line for the log; empty if nothing.
+std::string takeSoundNotice();
 
 }  // namespace glonks

@@ -4,6 +4,7 @@
 #include <SDL_mixer.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "base/paths.h"
 #include "present/services/audiodevice.h"
@@ -42,7 +43,9 @@ Flag BASS_Init(i32 /*device*/, i32 /*frequency*/, i32 /*flags*/, i32 /*hWnd*/, i
 u32 BASS_StreamCreateFile(i32 /*fromMemory*/, const std::string& path, i32 /*offset*/,
                           i32 /*length*/, i32 /*flags*/) {
   endSong();
-  SDL_RWops* file = SDL_RWFromFile(nativePath(path).string().c_str(), "rb");
+  const std::filesystem::path place = nativePath(path);
+  if (!isRegularFile(place)) return 0;
+  SDL_RWops* file = SDL_RWFromFile(place.string().c_str(), "rb");
   if (file == nullptr) return 0;
   silent = !hasAudioDevice();
   if (silent) {

@@ -4,9 +4,10 @@
 
 #include <vector>
 
-#include "base/errors.h"
+#include "present/services/failure.h"
 #include "present/services/filebytes.h"
 #include "present/services/screen.h"
+#include "present/services/window.h"
 
 namespace glonks {
 namespace {
@@ -15,9 +16,8 @@ constexpr i32 exclusive = 0x10;
 constexpr i32 primary = 0x200;
 constexpr i32 largestPicture = 4096;  // pixels of width or height
 
-[[noreturn]] void failPicture(const std::string& path, const std::string& reason) {
-  throw RuntimeError(ErrorNumber::badFile,
-                     "The picture \"" + path + "\" can't be used (" + reason + ").");
+std::string unusable(const std::string& path) {
+  return "The picture \"" + path + "\" can't be used";
 }
 
 i32 littleEndian(const std::vector<unsigned char>& bytes, std::size_t at, std::size_t length) {
@@ -31,7 +31,7 @@ i32 littleEndian(const std::vector<unsigned char>& bytes, std::size_t at, std::s
 void checkHeader(const std::string& path, const std::vector<unsigned char>& bytes) {
   constexpr std::size_t header = 26;  // up to width and height, which follow the header's own size
   if (bytes.size() < header || bytes[0] != 'B' || bytes[1] != 'M') {
-    failPicture(path, "it is no bitmap");
+    fail(ErrorNumber::badFile, unusable(path), "it is no bitmap");
   }
   const bool oldest = littleEndian(bytes, 14, 4) == 12;  // the form with sizes of 16 bits
   const std::size_t length = oldest ? 2 : 4;
@@ -39,7 +39,7 @@ void checkHeader(const std::string& path, const std::vector<unsigned char>& byte
   const i32 height = littleEndian(bytes, 18 + length, length);
   if (width < 1 || width > largestPicture || height == 0 || height < -largestPicture ||
       height > largestPicture) {
-    failPicture(path, "its size is out of range");
+    fail(ErrorNumber::badFile, unusable(path), "its size is out of range");
   }
 }
 
@@ -75,10 +75,10 @@ Surface DirectDraw7::CreateSurfaceFromFile(const std::string& path, SurfaceDesc&
   checkHeader(path, bytes);
   SDL_Surface* loaded =
       SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
-  if (loaded == nullptr) failPicture(path, SDL_GetError());
+  if (loaded == nullptr) fail(ErrorNumber::badFile, unusable(path));
   SDL_Surface* converted = SDL_ConvertSurfaceFormat(loaded, SDL_PIXELFORMAT_RGB888, 0);
   SDL_FreeSurface(loaded);
-  if (converted == nullptr) failPicture(path, SDL_GetError());
+  if (converted == nullptr) fail(ErrorNumber::badFile, unusable(path));
 
   const i32 width = converted->w;
   const i32 height = converted->h;

@@ -1,9 +1,6 @@
 #include "present/services/directinput.h"
 
-#include <algorithm>
-
 #include "base/errors.h"
-#include "present/services/screen.h"
 
 namespace glonks {
 
@@ -23,7 +20,7 @@ void DirectInputDevice::GetDeviceStateKeyboard(KeyState& state) const {
     throw RuntimeError(ErrorNumber::serviceFailed,
                        "GetDeviceStateKeyboard: the keyboard isn't acquired.");
   }
-  std::copy_n(keyTable(), state.size(), state.begin());
+  state = keyTable();
 }
 
 std::shared_ptr<DirectInputDevice> DirectInput::CreateDevice(const std::string& guid) {

@@ -1,17 +1,13 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <string>
 
 #include "base/types.h"
+#include "present/services/keyboardstate.h"
 
 // Keyboard and mouse of the game's window.
 namespace glonks {
-
-// One byte per DirectInput scan code, not 0 while the key is down. Scan codes name physical keys,
-// whatever the keyboard's layout.
-using KeyState = std::array<unsigned char, 256>;
 
 class DirectInputDevice {
  public:

@@ -5,7 +5,7 @@
 
 #include "base/types.h"
 
-// Sound effects. Tests put a list of the sounds played in the place of the device.
+// Sound effects. Tests replace the device by a list of the sounds played.
 namespace glonks {
 
 // How a sample is held: flags 0xE2 (static, with control of frequency, pan and volume).
@@ -40,24 +40,15 @@ using Sample = std::shared_ptr<DirectSoundBuffer>;
 
 class DirectSound {
  public:
-  DirectSound() = default;
-  virtual ~DirectSound() = default;
-  DirectSound(const DirectSound&) = delete;
-  DirectSound& operator=(const DirectSound&) = delete;
-
   // `level` 1: normal.
-  virtual void SetCooperativeLevel(i32 hWnd, i32 level) = 0;
+  void SetCooperativeLevel(i32 hWnd, i32 level);
   // A sample from a wave file; it is brought to the device's own format. Raises fileNotFound or
   // badFile, naming the file.
-  virtual Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
-                                           const SampleFormat& format) = 0;
+  Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
+                                   const SampleFormat& format);
 };
 
-// The default sound device, opened anew. Without one, all sounds are silent (see takeSoundNotice).
+// The default sound device, opened again. Without one, all sounds are silent (see takeSoundNotice).
 std::shared_ptr<DirectSound> createDirectSound(const std::string& device);
-
-// What has happened to the sound device since the last call, as a line for the log; empty if
-// nothing.
-std::string takeSoundNotice();
 
 }  // namespace glonks

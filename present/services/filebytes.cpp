@@ -11,8 +11,11 @@ namespace glonks {
 std::vector<unsigned char> fileBytes(const std::string& path) {
   constexpr std::uintmax_t most = 64U << 20U;
   const std::filesystem::path place = nativePath(path);
-  std::ifstream file(place, std::ios::binary);
   std::error_code error;
+  if (!isRegularFile(place) && std::filesystem::exists(place, error)) {
+    throw RuntimeError(ErrorNumber::badFile, "The file \"" + path + "\" is not a regular file.");
+  }
+  std::ifstream file(place, std::ios::binary);
   const std::uintmax_t size = std::filesystem::file_size(place, error);
   if (!file || error) {
     throw RuntimeError(ErrorNumber::fileNotFound, "The file \"" + path + "\" can't be opened.");

@@ -6,8 +6,8 @@
 // Inside the services: files that are read whole.
 namespace glonks {
 
-// All bytes of a file. Raises fileNotFound for a file that can't be opened and badFile for an empty
-// one or one of more than 64 MB, naming the file.
+// All bytes of a file. Naming the file, raises fileNotFound if it can't be opened, and badFile if
+// it is empty, larger than 64 MB, or a folder, device or pipe.
 std::vector<unsigned char> fileBytes(const std::string& path);
 
 }  // namespace glonks

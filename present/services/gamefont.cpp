@@ -8,8 +8,8 @@
 #include <memory>
 #include <utility>
 
-#include "base/errors.h"
 #include "base/text.h"
+#include "present/services/failure.h"
 
 namespace glonks {
 namespace {
@@ -28,14 +28,12 @@ using FontKey = std::pair<std::string, i32>;
 std::map<FontKey, Font> fonts;
 std::map<std::pair<FontKey, std::string>, TextPicture> pictures;
 
-[[noreturn]] void fail(const std::string& name, const std::string& reason) {
-  throw RuntimeError(ErrorNumber::serviceFailed,
-                     "The font \"" + name + "\" can't be used (" + reason + ").");
-}
+std::string unusable(const std::string& name) { return "The font \"" + name + "\" can't be used"; }
 
-// The file of the font that the system gives for a name.
+// The file of the font that the system has for a name.
 std::string fontFile(const std::string& name) {
-  if (FcInit() != FcTrue) fail(name, "the list of fonts can't be read");
+  if (FcInit() != FcTrue)
+    fail(ErrorNumber::serviceFailed, unusable(name), "the list of fonts can't be read");
   const std::unique_ptr<FcPattern, void (*)(FcPattern*)> wanted(FcPatternCreate(),
                                                                 FcPatternDestroy);
   FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.c_str()));
@@ -47,7 +45,7 @@ std::string fontFile(const std::string& name) {
       FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
   FcChar8* file = nullptr;
   if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &file) != FcResultMatch) {
-    fail(name, "the system has no font");
+    fail(ErrorNumber::serviceFailed, unusable(name), "the system has no font");
   }
   return reinterpret_cast<const char*>(file);
 }
@@ -55,9 +53,9 @@ std::string fontFile(const std::string& name) {
 TTF_Font* fontFor(const FontKey& key) {
   Font& font = fonts[key];
   if (font) return font.get();
-  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(key.first, TTF_GetError());
+  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(ErrorNumber::serviceFailed, unusable(key.first));
   font.reset(TTF_OpenFontDPI(fontFile(key.first).c_str(), key.second, dotsPerInch, dotsPerInch));
-  if (!font) fail(key.first, TTF_GetError());
+  if (!font) fail(ErrorNumber::serviceFailed, unusable(key.first));
   return font.get();
 }
 

@@ -15,7 +15,7 @@ struct TextPicture {
   std::vector<unsigned char> coverage;
 };
 
-// Makes a font ready. The system gives the one it has in the place of a name that it doesn't know.
+// Makes a font ready. For a name that the system doesn't know, it offers another font instead.
 // `points` at 96 to the inch. Raises serviceFailed, naming the font, if there is none at all.
 void loadFont(const std::string& name, i32 points);
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "base/types.h"
-#include "present/services/surface.h"
+#include "present/services/rect.h"
 
 namespace glonks {
 

@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "base/clock.h"
-#include "base/errors.h"
-#include "present/services/gamewindow.h"
+#include "present/services/failure.h"
 #include "present/services/picturescaler.h"
+#include "present/services/rect.h"
+#include "present/services/sdlwindow.h"
 
 namespace glonks {
 namespace {
@@ -21,13 +22,10 @@ constexpr u32 refreshPeriod = 16;  // ms
 SDL_Window* window = nullptr;
 i32 pictureWidth = 0;
 i32 pictureHeight = 0;
-u32 lastShown = 0;  // tick of the last picture
+std::vector<u32> shownPixels;  // the picture that stands on the screen
+u32 lastShown = 0;             // tick of the last picture
 
-[[noreturn]] void fail(const std::string& trouble) {
-  throw RuntimeError(ErrorNumber::serviceFailed, trouble + " (" + SDL_GetError() + ").");
-}
-
-// With a graphics processor: one texture, scaled by it.
+// With a graphics processor: one texture, which it scales.
 
 SDL_Renderer* renderer = nullptr;
 SDL_Texture* texture = nullptr;
@@ -36,13 +34,14 @@ void createTexture() {
   if (texture != nullptr) SDL_DestroyTexture(texture);
   texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
                               pictureWidth, pictureHeight);
-  if (texture == nullptr) fail("The screen can't take the game's picture");
+  if (texture == nullptr)
+    fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
   SDL_SetTextureScaleMode(texture, SDL_ScaleModeLinear);
 }
 
 void openRenderer() {
   renderer = SDL_CreateRenderer(window, -1, 0);
-  if (renderer == nullptr) fail("The screen can't be drawn on");
+  if (renderer == nullptr) fail(ErrorNumber::serviceFailed, "The screen can't be drawn on");
   SDL_RenderSetLogicalSize(renderer, pictureWidth, pictureHeight);
   createTexture();
 }
@@ -52,9 +51,11 @@ bool upload(const u32* pixels) {
 }
 
 void showTexture(const u32* pixels) {
+  std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
   if (!upload(pixels)) {
     createTexture();  // a display that was reset takes its textures with it
-    if (!upload(pixels)) fail("The screen can't take the game's picture");
+    if (!upload(pixels))
+      fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
   }
   SDL_RenderClear(renderer);
   SDL_RenderCopy(renderer, texture, nullptr, nullptr);
@@ -69,7 +70,6 @@ constexpr i32 tileHeight = 32;
 SDL_Surface* target = nullptr;  // SDL's own, new whenever the window's size has changed
 i32 targetWidth = 0;
 i32 targetHeight = 0;
-std::vector<u32> shownPixels;           // the picture that stands on the screen
 std::unique_ptr<PictureScaler> scaler;  // to `area`
 Rect area;                              // where the picture stands in the window
 bool paintWhole = true;
@@ -123,7 +123,7 @@ std::vector<Rect> changedParts(const u32* pixels) {
 
 void showChanges(const u32* pixels) {
   SDL_Surface* current = SDL_GetWindowSurface(window);
-  if (current == nullptr) fail("The screen can't be drawn on");
+  if (current == nullptr) fail(ErrorNumber::serviceFailed, "The screen can't be drawn on");
   // A new surface may lie at the address of the old one: its size has to be looked at too.
   if (current != target || current->w != targetWidth || current->h != targetHeight) {
     target = current;
@@ -186,11 +186,19 @@ bool openSurface() {
                                 surface->format->format == SDL_PIXELFORMAT_ARGB8888);
 }
 
+void show(const u32* pixels) {
+  if (renderer != nullptr) {
+    showTexture(pixels);
+  } else {
+    showChanges(pixels);
+  }
+}
+
 }  // namespace
 
 void openScreen(i32 handle, i32 width, i32 height) {
   closeScreen();
-  window = gameWindow(handle);
+  window = sdlWindowOf(handle);
   if (window == nullptr) {
     throw RuntimeError(ErrorNumber::serviceFailed, "There is no window to show the game in.");
   }
@@ -216,17 +224,15 @@ void showPicture(const u32* pixels) {
   }
   while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
   SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
-  if (renderer != nullptr) {
-    showTexture(pixels);
-  } else {
-    showChanges(pixels);
-  }
+  show(pixels);
   lastShown = GetTickCount();
 }
 
 void repaintScreen() {
+  if (window == nullptr) return;
   target = nullptr;
   paintWhole = true;
+  show(std::vector<u32>(shownPixels).data());
 }
 
 }  // namespace glonks

@@ -2,10 +2,8 @@
 
 #include "base/types.h"
 
-// Inside the services: the picture in the game's window, and its input as the window has seen it.
+// Inside the services: the picture in the game's window.
 namespace glonks {
-
-inline constexpr i32 keyCount = 256;  // DirectInput scan codes
 
 // Makes the window able to show pictures of the given size, scaled and letterboxed to whatever size
 // the window has. Raises serviceFailed.
@@ -19,13 +17,8 @@ void closeScreen();
 // cheap there.
 void showPicture(const u32* pixels);
 
-// The window's content is gone: the next picture is painted whole.
+// The window's content is lost or its size has changed: shows the last picture again, whole and at
+// once. Does nothing while no screen is open. Raises serviceFailed.
 void repaintScreen();
-
-// True while the window lacks the keyboard's focus or is minimised.
-bool screenLost();
-
-// One byte per scan code, 0x80 while the key is down.
-const unsigned char* keyTable();
 
 }  // namespace glonks

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "base/errors.h"
+#include "present/services/failure.h"
 #include "present/services/gamefont.h"
 #include "present/services/screen.h"
 
@@ -60,8 +60,7 @@ std::vector<u32> stretched(std::vector<u32>& pixels, i32 width, i32 height, i32 
   const SdlSurface target = wrapped(result, newWidth, newHeight);
   const auto stretch = smooth ? SDL_SoftStretchLinear : SDL_SoftStretch;
   if (!source || !target || stretch(source.get(), nullptr, target.get(), nullptr) != 0) {
-    throw RuntimeError(ErrorNumber::serviceFailed,
-                       std::string("Blt: a picture can't be stretched (") + SDL_GetError() + ").");
+    fail(ErrorNumber::serviceFailed, "Blt: a picture can't be stretched");
   }
   return result;
 }

@@ -5,18 +5,10 @@
 #include <vector>
 
 #include "base/types.h"
+#include "present/services/rect.h"
 
 // Surfaces: pictures in memory that can be drawn on and blitted to each other.
 namespace glonks {
-
-// Left, top, right, bottom in pixels, right and bottom exclusive. Four zeros: the whole surface.
-struct Rect {
-  i32 left = 0;
-  i32 top = 0;
-  i32 right = 0;
-  i32 bottom = 0;
-  friend bool operator==(const Rect&, const Rect&) = default;
-};
 
 // A colour of three parts from 0 to 255, as a 32-bit number 0x00RRGGBB.
 constexpr i32 RGB(i32 red, i32 green, i32 blue) { return red << 16 | green << 8 | blue; }
@@ -69,21 +61,21 @@ class DirectDrawSurface7 {
   void SetColorKey(i32 flags, const ColorKey& key);
 
   // Draws the rectangle `from` of `source` into the rectangle `to` of this surface, stretched where
-  // the sizes differ, and cut off at this surface's edges. An empty source draws nothing. Gives 0,
-  // or another status where nothing could be drawn.
+  // the sizes differ, and cut off at this surface's edges. An empty source draws nothing. Returns
+  // 0, or another status if nothing could be drawn.
   i32 Blt(const Rect& to, const Surface& source, const Rect& from, i32 flags);
 
   // Fills a rectangle with one colour.
   i32 BltColorFill(const Rect& to, i32 color);
 
-  // The font of DrawText. Raises serviceFailed if the system has none to give.
+  // The font of DrawText. Raises serviceFailed if the system has none at all.
   void SetFont(const GameFont& font);
   void SetForeColor(i32 color);
   // True: no box behind the text. False: a black one.
   void SetFontTransparency(Flag transparent);
 
   // One line of text with its top left at (x, y). Drawing a text again where it stands already
-  // changes nothing, so that its smooth edges don't grow.
+  // changes nothing, so its smooth edges don't get thicker.
   void DrawText(i32 x, i32 y, const std::string& text, Flag atCursor);
 
   // A primary surface's: its back buffer (`caps` 4), and showing that on the screen.

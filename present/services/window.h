@@ -7,8 +7,8 @@
 // The window that a game is played in, and its messages. There is at most one at a time.
 namespace glonks {
 
-// What a window calls while its messages are let through: keyDown at each key press and each repeat
-// of a held key, closeAsked when the player wants the window closed.
+// What a window calls while its messages are let through: keyDown at each key press and at each
+// repeat of a held key, closeAsked when the player wants the window closed.
 struct WindowEvents {
   void (*keyDown)() = nullptr;
   void (*closeAsked)() = nullptr;
@@ -16,16 +16,24 @@ struct WindowEvents {
 
 enum class WindowState : i16 { normal = 0, maximised = 2 };
 
-// Opens the window over the whole desktop and gives its handle. Raises serviceFailed.
+// Opens the window over the whole desktop and returns its handle. Raises serviceFailed.
 i32 openWindow(const std::string& caption, const WindowEvents& events);
 void closeWindow(i32 handle);
+
+// Does nothing unless the window covers the whole screen: one that the player has sized stays as it
+// is.
 void setWindowState(i32 handle, WindowState state);
+
 void setWindowTitle(i32 handle, const std::string& title);
 
 // Handles what is waiting for the window: keys, loss and return of the focus, Alt+Enter (which
-// switches between the whole screen and a resizable window). If nothing is waiting, sleeps to the
-// next millisecond. Does nothing while no window is open.
+// switches between the whole screen and a resizable window). If the window has been uncovered or
+// resized, shows the last picture again. If nothing is waiting, sleeps to the next millisecond.
+// Does nothing while no window is open. Raises serviceFailed.
 void letWindowMessagesThrough();
+
+// True while the window lacks the keyboard's focus or is minimised.
+bool screenLost();
 
 // Shows the mouse pointer over the window (1) or hides it (0).
 void ShowCursor(i32 show);

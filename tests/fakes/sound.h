@@ -9,20 +9,27 @@
 // Lists of what has been heard, linked in the place of the sound device.
 namespace glonks::fake {
 
-// Samples by the name of their file, "_pop01", in the order of playing; "stop _moverow" where one
-// was cut off.
-inline std::vector<std::string> sounds;
-inline std::set<std::string> brokenSamples;     // playing one of these raises an error
-inline std::vector<std::string> samplesLoaded;  // in the order of loading
+struct Heard {
+  // Samples by the name of their file, "_pop01", in the order of playing; "stop _moverow" where one
+  // was cut off.
+  std::vector<std::string> sounds;
+  std::set<std::string> brokenSamples;     // playing one of these raises an error
+  std::vector<std::string> samplesLoaded;  // in the order of loading
+  bool musicReady = false;                 // between BASS_Init and BASS_Free
+  std::vector<std::string> songsOpened;    // paths, also of songs that failed
+  std::set<std::string> brokenSongs;       // paths that can't be opened
+  u32 songPlaying = 0;                     // handle
+  bool songEnded = false;                  // the song that plays has come to its end
+  bool musicHalted = false;
+  i32 songVolume = -1;
+  std::string soundNotice;  // what takeSoundNotice returns next
+};
+inline Heard heard;
+inline void resetSound() { heard = {}; }
 
-inline std::vector<std::string> songsOpened;  // paths, also of songs that failed
-inline std::set<std::string> brokenSongs;     // paths that can't be opened
-inline bool songEnded = false;                // the song that plays has come to its end
-inline bool musicReady = false;               // between BASS_Init and BASS_Free
-inline bool musicHalted = false;
-inline i32 songVolume = -1;
-inline std::string soundNotice;
-
-void resetSound();
+// The record's fields by their own names, in its order.
+[[maybe_unused]] static auto& [sounds, brokenSamples, samplesLoaded, musicReady, songsOpened,
+                               brokenSongs, songPlaying, songEnded, musicHalted, songVolume,
+                               soundNotice] = heard;
 
 }  // namespace glonks::fake

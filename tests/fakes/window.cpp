@@ -1,52 +1,34 @@
 #include "tests/fakes/window.h"
 
 #include "present/services/screen.h"
-#include "present/services/window.h"
 
 namespace glonks {
-namespace {
-WindowEvents handlers;
-}
 
-namespace fake {
-
-void pressKeys(const std::vector<i32>& scanCodes) {
+void fake::pressKeys(const std::vector<i32>& scanCodes) {
   keys.fill(0);
   for (const i32 code : scanCodes) keys[static_cast<std::size_t>(code)] = 0x80;
-  handlers.keyDown();
+  windowEvents.keyDown();
 }
 
-void resetWindow() {
-  keys.fill(0);
-  screenIsLost = false;
-  picturesShown = 0;
-  windowOpen = false;
-  cursorShown = 1;
-  windowMessages = nullptr;
-  windowTitle.clear();
-}
-
-}  // namespace fake
-
-i32 openWindow(const std::string& /*caption*/, const WindowEvents& events) {
-  handlers = events;
+i32 openWindow(const std::string&, const WindowEvents& events) {
   fake::windowOpen = true;
+  fake::windowEvents = events;
   return 1;
 }
-void closeWindow(i32 /*handle*/) { fake::windowOpen = false; }
-void setWindowState(i32 /*handle*/, WindowState /*state*/) {}
-void setWindowTitle(i32 /*handle*/, const std::string& title) { fake::windowTitle = title; }
+void closeWindow(i32) { fake::windowOpen = false; }
+void setWindowState(i32, WindowState) {}
+void setWindowTitle(i32, const std::string& title) { fake::windowTitle = title; }
 void letWindowMessagesThrough() {
   if (fake::windowMessages) fake::windowMessages();
 }
+bool screenLost() { return fake::screenIsLost; }
 void ShowCursor(i32 show) { fake::cursorShown = show; }
-void openScreen(i32 /*handle*/, i32 /*width*/, i32 /*height*/) {}
+void openScreen(i32, i32, i32) {}
 void closeScreen() {}
 void showPicture(const u32* pixels) {
   ++fake::picturesShown;
   fake::watchedPixel = pixels[fake::watchedY * 1024 + fake::watchedX];
 }
-bool screenLost() { return fake::screenIsLost; }
-const unsigned char* keyTable() { return fake::keys.data(); }
+const KeyState& keyTable() { return fake::keys; }
 
 }  // namespace glonks

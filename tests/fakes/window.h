@@ -1,31 +1,38 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "base/types.h"
+#include "present/services/keyboardstate.h"
+#include "present/services/window.h"
 
 // A window without a screen, linked in the place of the real one.
 namespace glonks::fake {
 
-inline std::array<unsigned char, 256> keys = {};  // by scan code
-inline bool screenIsLost = false;
-inline i32 picturesShown = 0;
-inline i32 watchedX = 0;  // a place on the screen, and what the last picture showed there
-inline i32 watchedY = 0;
-inline u32 watchedPixel = 0;
-inline bool windowOpen = false;
-inline std::string windowTitle;  // as last set
-inline i32 cursorShown = 1;      // the last argument of ShowCursor
+struct Seen {
+  KeyState keys = {};  // by scan code
+  bool screenIsLost = false;
+  i32 picturesShown = 0;
+  i32 watchedX = 0;  // a place on the screen, and what the last picture showed there
+  i32 watchedY = 0;
+  u32 watchedPixel = 0;
+  bool windowOpen = false;
+  WindowEvents windowEvents;
+  std::string windowTitle;               // as last set
+  i32 cursorShown = 1;                   // the last argument of ShowCursor
+  std::function<void()> windowMessages;  // runs at each letWindowMessagesThrough
+};
+inline Seen seen;
+inline void resetWindow() { seen = {}; }
 
-// Runs at each letWindowMessagesThrough.
-inline std::function<void()> windowMessages;
+// The record's fields by their own names, in its order.
+[[maybe_unused]] static auto& [keys, screenIsLost, picturesShown, watchedX, watchedY, watchedPixel,
+                               windowOpen, windowEvents, windowTitle, cursorShown, windowMessages] =
+    seen;
 
 // The keys that are down, and a key event for them.
 void pressKeys(const std::vector<i32>& scanCodes);
-
-void resetWindow();
 
 }  // namespace glonks::fake

@@ -1,21 +1,33 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <dlfcn.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 
+#include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "present/services/directx.h"
-#include "present/services/screen.h"
 #include "present/services/window.h"
 #include "tests/fakes/clock.h"
 #include "tests/tempfolder.h"
 
+// Two of SDL's functions, in the place of its own.
+
+static int timesMaximised = 0;
+extern "C" void SDL_MaximizeWindow(SDL_Window* /*window*/) { ++timesMaximised; }
+
+static bool surfaceRefused = false;  // the next time
+extern "C" SDL_Surface* SDL_GetWindowSurface(SDL_Window* window) {
+  static void* const own = dlsym(RTLD_NEXT, "SDL_GetWindowSurface");
+  if (std::exchange(surfaceRefused, false)) return nullptr;
+  return reinterpret_cast<decltype(&SDL_GetWindowSurface)>(own)(window);
+}
+
 namespace glonks {
 namespace {
 
-constexpr u32 white = 0xFFFFFF;
-constexpr u32 red = 0xFF0000;
-constexpr u32 blue = 0x0000FF;
+constexpr u32 white = 0xFFFFFF, red = 0xFF0000, blue = 0x0000FF;
 
 // A picture of which keyed blits leave out the white pixels.
 Surface picture(i32 width, i32 height, auto color) {
@@ -23,7 +35,7 @@ Surface picture(i32 width, i32 height, auto color) {
   for (i32 i = 0; i < width * height; ++i) pixels.push_back(color(i % width, i / width));
   auto surface = std::make_shared<DirectDrawSurface7>(width, height);
   surface->setPixels(std::move(pixels));
-  surface->SetColorKey(sourceBlitKey, {0xFFFFFF, 0xFFFFFF});
+  surface->SetColorKey(sourceBlitKey, {white, white});
   surface->SetFont({"Times New Roman", 12});
   surface->SetForeColor(0xFFFFFF);
   return surface;
@@ -42,23 +54,34 @@ bool looksLike(const Surface& surface, auto color) {
 // Every pixel another colour, those of one diagonal white.
 u32 motley(i32 x, i32 y) { return x == y ? white : static_cast<u32>(0x100000 + x * 0x100 + y); }
 
-// From changing parts of the source, more than it keeps prepared.
-TEST(Surface, BlitsAndFillsAreCutOffAtAllEdges) {
-  const Surface source = picture(10, 10, motley);
-  for (i32 i = 0; i < 640; ++i) {
-    const i32 flags = i % 2 == 0 ? bltOpaque : bltKeyed;
-    const Rect to{i / 2 % 20 - 7, i / 40 - 6, i / 2 % 20 - 1, i / 40 - 1};
-    const Rect from{i % 5, i % 4, i % 5 + 6, i % 4 + 5};
-    const Surface target = plain(11, 8, blue);
-    const auto blitted = [&](i32 x, i32 y) {
-      const u32 pixel = motley(x - to.left + from.left, y - to.top + from.top);
-      const bool shows = x >= to.left && x < to.right && y >= to.top && y < to.bottom;
-      return !shows || (flags == bltKeyed && pixel == white) ? blue : pixel;
-    };
+// Between two surfaces that change before each blit, in every way: blits keep what they have worked
+// out, and it must never be out of date.
+TEST(Surface, BlitsShowTheirSourceAsItIsAndAreCutOffAtAllEdges) {
+  const Surface pair[] = {picture(11, 8, motley), picture(11, 8, motley)};
+  u32 keys[] = {white, white};
+  for (i32 i = 0; i < 2000; ++i) {
+    const Surface& source = pair[i / 5 % 2];
+    const Surface& target = pair[1 - i / 5 % 2];
+    u32& key = keys[i / 5 % 2];
+    if (i % 5 == 1) source->BltColorFill({i % 6, i % 3, i % 6 + 4, 9}, i % 10 == 1 ? red : blue);
+    if (i % 5 == 2) source->DrawText(i % 7 - 3, i % 5 - 8, std::to_string(i), False);
+    if (i % 5 == 3) {
+      key = source->pixel(5, 4);
+      source->SetColorKey(sourceBlitKey, {static_cast<i32>(key), static_cast<i32>(key)});
+    }
+    if (i % 5 == 4) source->setPixels(std::vector<u32>(11 * 8, static_cast<u32>(i)));
+    const Rect to{i % 20 - 7, i / 20 % 17 - 6, i % 20 - 1, i / 20 % 17 - 1};
+    const Rect from{i / 20 % 5, i / 100 % 4, i / 20 % 5 + 6, i / 100 % 4 + 5};
+    const bool keyed = i % 3 > 0;
+    const Surface before = picture(11, 8, [&](i32 x, i32 y) { return target->pixel(x, y); });
     target->BltColorFill(to, 0x123456);
-    target->Blt(to, plain(6, 5, blue), {}, bltOpaque);
-    target->Blt(to, source, from, flags);
-    ASSERT_TRUE(looksLike(target, blitted)) << "to " << to.left << ", " << to.top;
+    target->Blt(to, source, from, keyed ? bltKeyed : bltOpaque);
+    const auto expected = [&](i32 x, i32 y) {
+      if (x < to.left || x >= to.right || y < to.top || y >= to.bottom) return before->pixel(x, y);
+      const u32 pixel = source->pixel(x - to.left + from.left, y - to.top + from.top);
+      return keyed && pixel == key ? 0x123456U : pixel;
+    };
+    ASSERT_TRUE(looksLike(target, expected)) << "step " << i;
   }
 }
 
@@ -72,28 +95,6 @@ TEST(Surface, BlitsStretchSmoothlyOrWithoutAFringe) {
   EXPECT_TRUE(looksLike(target, corner));
   target->Blt({}, source, {}, bltOpaque);
   EXPECT_TRUE(target->pixel(30, 0) != red && target->pixel(30, 0) != white) << "a hard step";
-}
-
-// Blits keep what they have worked out; it must never be out of date.
-TEST(Surface, ABlitShowsItsSourceAsItIsNow) {
-  void (*const changes[])(const Surface&) = {
-      [](const Surface& s) { s->BltColorFill({}, blue); },
-      [](const Surface& s) { s->setPixels(std::vector<u32>(64, blue)); },
-      [](const Surface& s) { s->Blt({}, plain(8, 8, blue), {}, bltOpaque); },
-      [](const Surface& s) {
-        s->SetColorKey(sourceBlitKey, {red, red});
-      },
-      [](const Surface& s) { s->DrawText(0, -4, "W", False); },
-  };
-  for (const auto& change : changes) {
-    const Surface source = plain(8, 8, red);
-    const Surface target = plain(16, 16, blue);
-    target->Blt({}, source, {}, bltKeyed);
-    change(source);
-    target->BltColorFill({}, blue);
-    target->Blt({}, source, {}, bltKeyed);
-    EXPECT_FALSE(looksLike(target, [](i32, i32) { return red; })) << &change - changes;
-  }
 }
 
 TEST(Text, DrawnAgainItLooksAsDrawnOnceAndIsCutOffAtTheEdges) {
@@ -139,100 +140,132 @@ TEST_F(PictureFile, LoadsOrIsToldByName) {
   }
 }
 
-i32 told = 0;  // how many keys were down when the game was last told of one; -1: asked to close
+// The scan codes of all keys that are down, added up.
+i32 downKeys() {
+  DirectInputDevice keyboard;
+  keyboard.SetCommonDataFormat(1);
+  keyboard.SetCooperativeLevel(1, 0xA);
+  keyboard.Acquire();
+  KeyState keys = {};
+  keyboard.GetDeviceStateKeyboard(keys);
+  i32 sum = 0;
+  for (i32 code = 0; code < 256; ++code) sum += keys[code] != 0 ? code : 0;
+  return sum;
+}
 
-i32 downKeys() { return static_cast<i32>(std::count(keyTable(), keyTable() + keyCount, 0x80)); }
+i32 told = 0;  // the keys that were down when the game was last told of one; -1: asked to close
 
 struct Window : ::testing::Test {
-  Window() { setenv("SDL_VIDEODRIVER", "dummy", 1); }
   ~Window() override { closeWindow(handle); }
   static i32 open() {
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
     return openWindow("Glonks", {[] { told = downKeys(); }, [] { told = -1; }});
   }
   SDL_Window* window() const { return SDL_GetWindowFromID(static_cast<Uint32>(handle)); }
   // What the game is told of one event, of a key or of the window.
   static i32 send(Uint32 type, int what, Uint16 modifiers = 0, Uint8 repeat = 0) {
     SDL_Event event = {};
-    event.type = type;
-    event.key.repeat = repeat;
-    event.key.keysym = {static_cast<SDL_Scancode>(what), 0, modifiers, 0};
+    const SDL_Keysym key = {static_cast<SDL_Scancode>(what), 0, modifiers, 0};
+    event.key = {type, 0, 0, 0, repeat, 0, 0, key};
     if (type == SDL_WINDOWEVENT) event.window.event = static_cast<Uint8>(what);
     SDL_PushEvent(&event);
     letWindowMessagesThrough();
     return std::exchange(told, 0);
   }
+  // Alt+Enter, held so long that it repeats itself.
+  static void switchFullScreen() {
+    for (const Uint8 repeat : {0, 1}) send(SDL_KEYDOWN, SDL_SCANCODE_RETURN, KMOD_LALT, repeat);
+  }
   i32 handle = open();
 };
 
-TEST_F(Window, HearsKeysByTheirScanCodes) {
-  const std::pair<SDL_Scancode, i32> table[] = {
-      {SDL_SCANCODE_ESCAPE, 1}, {SDL_SCANCODE_N, 49},     {SDL_SCANCODE_P, 25},
-      {SDL_SCANCODE_UP, 200},   {SDL_SCANCODE_LEFT, 203}, {SDL_SCANCODE_RIGHT, 205}};
-  for (const auto& [key, scanCode] : table) {
-    for (const Uint8 repeat : {0, 1}) EXPECT_EQ(send(SDL_KEYDOWN, key, 0, repeat), 1) << scanCode;
-    EXPECT_NE(keyTable()[scanCode], 0) << scanCode;
-    send(SDL_KEYUP, key);
-  }
-  for (const Uint8 repeat : {0, 1}) {
-    EXPECT_EQ(send(SDL_KEYDOWN, SDL_SCANCODE_RETURN, KMOD_LALT, repeat), 0);
-  }
-  EXPECT_EQ(SDL_GetWindowFlags(window()) & SDL_WINDOW_FULLSCREEN_DESKTOP, 0U);
-}
-
-TEST_F(Window, LosesKeysWithTheFocusAndStartsAnew) {
+TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   SDL_InitSubSystem(SDL_INIT_AUDIO);  // sound keeps SDL's queue of events over a window's end
   // A key that is held when the focus returns; SDL gives a view of its own table.
   const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[SDL_SCANCODE_DOWN] = 1;
   // Each event with what the game is told of it, and whether the screen is lost then.
   const std::tuple<const char*, Uint32, int, i32, bool> events[] = {
-      {"a key", SDL_KEYDOWN, SDL_SCANCODE_LEFT, 1, false},
+      {"Escape", SDL_KEYDOWN, SDL_SCANCODE_ESCAPE, 1, false},
+      {"P", SDL_KEYDOWN, SDL_SCANCODE_P, 1 + 25, false},
+      {"N", SDL_KEYDOWN, SDL_SCANCODE_N, 1 + 25 + 49, false},
+      {"Up", SDL_KEYDOWN, SDL_SCANCODE_UP, 1 + 25 + 49 + 200, false},
       {"focus lost", SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST, 0, true},
       {"for another program", SDL_KEYDOWN, SDL_SCANCODE_RIGHT, 0, true},
       {"focus back", SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
       {"held since before", SDL_KEYDOWN, SDL_SCANCODE_DOWN, 0, false},
+      {"Left", SDL_KEYDOWN, SDL_SCANCODE_LEFT, 203, false},
       {"let go", SDL_KEYUP, SDL_SCANCODE_DOWN, 0, false},
-      {"pressed anew", SDL_KEYDOWN, SDL_SCANCODE_DOWN, 1, false},
+      {"pressed again", SDL_KEYDOWN, SDL_SCANCODE_DOWN, 203 + 208, false},
       {"minimised", SDL_WINDOWEVENT, SDL_WINDOWEVENT_MINIMIZED, 0, true},
       {"restored", SDL_WINDOWEVENT, SDL_WINDOWEVENT_RESTORED, 0, false},
+      {"focus back again", SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
       {"minimised again", SDL_WINDOWEVENT, SDL_WINDOWEVENT_MINIMIZED, 0, true},
       {"close box", SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE, -1, true}};
   for (const auto& [name, type, what, expected, lost] : events) {
-    EXPECT_EQ(send(type, what), expected) << name;
+    for (const Uint8 repeat : {0, 1}) EXPECT_EQ(send(type, what, 0, repeat), expected) << name;
     EXPECT_EQ(DirectDraw7().TestCooperativeLevel() != 0, lost) << name;
   }
   closeWindow(handle);
   send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE);
   handle = open();
   letWindowMessagesThrough();
-  EXPECT_TRUE(told == 0 && !screenLost() && downKeys() == 0);
+  EXPECT_TRUE(told == 0 && downKeys() == 0 && !screenLost()) << "a window starts afresh";
+  EXPECT_EQ(send(SDL_KEYDOWN, SDL_SCANCODE_DOWN), 208);
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
-TEST_F(Window, FlipShowsThePictureAtTheGamesPace) {
-  DirectDraw7 dd;
-  dd.SetCooperativeLevel(handle, 0x51);
-  dd.SetDisplayMode(300, 100, 16, 0, 0);
-  const Surface primary = dd.CreateSurface({0x21, 0x218, 1, 0, 0});
-  SDL_Surface* screen = SDL_GetWindowSurface(window());
-  primary->Flip(nullptr, flipWait);
-  const auto shown = [&] {
-    const u32 before = fake::clockNow;
-    primary->Flip(nullptr, flipWait);
-    EXPECT_EQ(fake::clockNow - before, 16U);
-    const auto* pixels = static_cast<const u32*>(screen->pixels);
-    return std::vector<u32>(pixels, pixels + 1024 * 768);
-  };
-  for (i32 i = 0; i < 20; ++i) {
-    primary->GetAttachedSurface(4)->BltColorFill(
-        {i % 4 * 71, i * 5 % 30, i % 4 * 64 + 64, i % 3 * 32 + 32}, i * 0x0D0B07);
-    const std::vector<u32> parts = shown();
-    SDL_FillRect(screen, nullptr, 0);
-    repaintScreen();
-    ASSERT_TRUE(parts == shown()) << "frame " << i;
+TEST_F(Window, KeepsTheSizeThatThePlayerGaveIt) {
+  timesMaximised = 0;
+  switchFullScreen();
+  SDL_SetWindowSize(window(), 640, 480);
+  setWindowState(handle, WindowState::maximised);
+  EXPECT_EQ(timesMaximised, 0) << "only a window over the whole screen is";
+  switchFullScreen();
+  setWindowState(handle, WindowState::maximised);
+  EXPECT_TRUE(timesMaximised == 1 && SDL_GetWindowSurface(window())->w == 1024);
+  for (const int width : {640, 700}) {
+    switchFullScreen();
+    EXPECT_EQ(SDL_GetWindowSurface(window())->w, width);
+    SDL_SetWindowSize(window(), 700, 480);
+    closeWindow(handle);
+    handle = open();  // the next game
   }
-  primary->GetAttachedSurface(4)->BltColorFill({}, 0x0A78E6);
-  const std::vector<u32> plain = shown();
-  EXPECT_EQ(plain[384 * 1024] - plain[200 * 1024] - plain[600 * 1024], 0x0A78E6U) << "with bars";
+}
+
+// Both through a texture and on the window's own surface.
+TEST_F(Window, ShowsPicturesAtTheGamesPaceAndAgainWhenUncovered) {
+  switchFullScreen();
+  send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
+  for (const bool texture : {true, false}) {
+    SDL_SetWindowSize(window(), 1024, 768);
+    surfaceRefused = texture;
+    DirectDraw7 dd;
+    dd.SetCooperativeLevel(handle, 0x51);
+    dd.SetDisplayMode(300, 100, 16, 0, 0);
+    const Surface primary = dd.CreateSurface({0x21, 0x218, 1, 0, 0});
+    primary->Flip(nullptr, flipWait);
+    const auto standing = [this] {
+      const SDL_Surface* screen = SDL_GetWindowSurface(window());
+      const auto* pixels = static_cast<const u32*>(screen->pixels);
+      return std::vector<u32>(pixels, pixels + screen->w * screen->h);
+    };
+    for (i32 i = 0; i < 20; ++i) {
+      const Rect part{i % 4 * 71, i * 5 % 30, i % 4 * 64 + 64, i % 3 * 32 + 32};
+      primary->GetAttachedSurface(4)->BltColorFill(i < 19 ? part : Rect{}, i * 0x0D0B07);
+      const u32 before = fake::clockNow;
+      primary->Flip(nullptr, flipWait);
+      EXPECT_EQ(fake::clockNow - before, 16U);
+      const std::vector<u32> parts = standing();
+      SDL_FillRect(SDL_GetWindowSurface(window()), nullptr, 0);
+      send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
+      ASSERT_TRUE(parts == standing()) << "frame " << i;
+    }
+    SDL_SetWindowSize(window(), 500, 600);
+    letWindowMessagesThrough();
+    const std::vector<u32> plain = standing();
+    EXPECT_EQ(plain[300 * 500] - plain[200 * 500] - plain[400 * 500], 19 * 0x0D0B07U)
+        << "with bars";
+  }
 }
 
 const char* const songPath = "\\music\\Low Tide Radio - Seven Rows";
@@ -256,6 +289,8 @@ struct Sound : TempFolder {
 TEST_F(Sound, LoadsWithAndWithoutADevice) {
   const std::string pop = bytesOf("\\sounds\\_pop01.wav");
   putBytes("\\song", "OggS" + std::string(5000, 'x'));
+  std::filesystem::create_symlink("/dev/zero", folder / "device");
+  mkfifo((folder / "pipe").c_str(), 0600);
   for (const std::string driver : {"dummy", "none such"}) {
     open(driver.c_str());
     EXPECT_EQ(takeSoundNotice().substr(0, 8), driver == "dummy" ? "" : "no sound");
@@ -267,15 +302,21 @@ TEST_F(Sound, LoadsWithAndWithoutADevice) {
       putBytes("\\bad.wav", bytes);
       EXPECT_PRED2(holds, errorOf([&] { load("\\bad.wav"); }), "\"\\bad.wav\"") << bytes.size();
     }
+    for (const std::string path : {"\\sounds", "\\device", "\\pipe"}) {
+      EXPECT_PRED2(holds, errorOf([&] { load(path); }), "\"" + path + "\" is not a regular file");
+      EXPECT_EQ(song(path), 0U) << path;
+    }
     EXPECT_EQ(song("\\sounds\\_pop01.wav") + song("\\none"), 0U) << driver;
-    EXPECT_EQ(song("\\song") == 0, driver == "dummy") << "damaged behind its first bytes";
+    EXPECT_EQ(song("\\song") == 0, driver == "dummy") << "damaged after its first bytes";
   }
-  EXPECT_EQ(takeSoundNotice(), "") << "it is told once that there is no device";
+  EXPECT_EQ(takeSoundNotice(), "") << "it is reported once that there is no device";
   EXPECT_NE(BASS_ChannelIsActive(song(songPath)), 0) << "a silent song doesn't end";
 }
 
 TEST_F(Sound, PlaysManySamplesAndOneSong) {
   open("dummy");
+  EXPECT_EQ(Mix_QuerySpec(nullptr, nullptr, nullptr), 1)
+      << "the device was opened again, not twice";
   const Sample clapping = load("\\sounds\\_clapping01.wav");
   const Sample other = load("\\sounds\\_clapping02.wav");
   for (int i = 0; i < 45; ++i) clapping->Play(0);

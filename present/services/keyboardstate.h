@@ -1,0 +1,31 @@
+#pragma once
+
+#include <array>
+
+#include "base/types.h"
+
+// Inside the services: which keys are down, according to the window's events.
+namespace glonks {
+
+// One byte per DirectInput scan code, not 0 while the key is down. Scan codes name physical keys,
+// whatever the keyboard's layout.
+using KeyState = std::array<unsigned char, 256>;
+
+// The keys as they are at the event that is being handled, 0x80 for those that are down.
+const KeyState& keyTable();
+
+// A key goes down or comes up; `key` is SDL's scan code. A key that is dead stays up, and pressing
+// it returns false.
+bool pressKey(i32 key);
+void releaseKey(i32 key);
+
+// All keys come up.
+void releaseAllKeys();
+
+// The keys that are held now are dead until they are let go. No other key is.
+void deadenHeldKeys();
+
+// All keys are up and none is dead.
+void forgetKeys();
+
+}  // namespace glonks
