@@ -27,16 +27,11 @@
       _slam01, _gorgon01, _coin01, _gorgon02, _calculate01, _calculate02, _bowling01, frogSounds, \
       _detonate, _music01, _bauble01, _bauble02, clappingSounds, pointerSurface, zapVSurface,     \
       zapHSurface, frameSurface, glyphSurfaces, frogPictures, explosionSurface, plateSurface
-#define OTHER_STATE                                                                                \
-  themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,    \
-      mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode,   \
-      tLevels, fake::clockNow, fake::sleeps, fake::nextSeed, fake::draws, fake::generator,         \
-      fake::seedings, fake::boxes, fake::yes, fake::asked, fake::typed, fake::forms, fake::opened, \
-      fake::messages, fake::messagePasses, fake::keys, fake::screenIsLost, fake::picturesShown,    \
-      fake::windowOpen, fake::windowTitle, fake::cursorShown, fake::windowMessages, fake::sounds,  \
-      fake::brokenSamples, fake::samplesLoaded, fake::songsOpened, fake::brokenSongs,              \
-      fake::songEnded, fake::musicReady, fake::musicReady, fake::musicHalted, fake::songVolume,    \
-      fake::soundNotice, fake::drawn, fake::onPicture
+#define OTHER_STATE                                                                              \
+  themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,  \
+      mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode, \
+      tLevels, fake::clockNow, fake::sleeps, fake::nextSeed, fake::draws, fake::generator,       \
+      fake::seedings, fake::shown, fake::seen, fake::heard, fake::drawn, fake::onPicture
 #define STRING_OF(...) #__VA_ARGS__
 #define NAMES_OF(list) STRING_OF(list)
 

@@ -4,21 +4,6 @@
 
 namespace glonks {
 
-namespace fake {
-
-void resetToolkit() {
-  boxes.clear();
-  yes = False;
-  asked = nullptr;
-  typed.clear();
-  forms.clear();
-  opened.clear();
-  messages = nullptr;
-  messagePasses = 0;
-}
-
-}  // namespace fake
-
 void startToolkit(int /*argc*/, char** /*argv*/) {}
 std::filesystem::path folderOfProgram() { return {}; }
 FolderHold holdFolder(const std::filesystem::path& /*folder*/) { return FolderHold::held; }
