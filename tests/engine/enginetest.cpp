@@ -1,6 +1,7 @@
 #include "tests/engine/enginetest.h"
 
 #include <cstring>
+#include <fstream>
 #include <sstream>
 #include <tuple>
 
@@ -279,11 +280,13 @@ void set(const std::string& settings) {
 
 void note(const std::string& remark) { remarks += "; " + remark; }
 
-void playTable(const std::string& table, const Acts& acts) {
+void playTable(const std::string& name, const Acts& acts) {
   Acts all = everyTablesActs();
   all.insert(acts.begin(), acts.end());
-  for (const std::string& row : split(table, '\n')) {
-    if (!trimmed(row).empty() && trimmed(row).substr(0, 2) != "//") playRow(row, all);
+  std::ifstream table(std::string(GLONKS_SOURCE) + "/tests/engine/tables/" + name + ".txt");
+  EXPECT_TRUE(table) << name;
+  for (std::string row; std::getline(table, row);) {
+    if (!row.empty() && row.substr(0, 2) != "//") playRow(row, all);
   }
 }
 

@@ -84,13 +84,13 @@ void note(const std::string& remark);
 //   and remarks
 std::string outcome();
 
-// Plays a table, one case in a row: the board and the letters whose timers have run out, then
-// settings of the game's variables, draws ("~5/1000", "~0.75") and acts ("drop:W,3"), then the
+// Plays a table of tables/, one case in a row: the board and the letters whose timers have run out,
+// then settings of the game's variables, draws ("~5/1000", "~0.75") and acts ("drop:W,3"), then the
 // outcome. Acts of every table: drop:letter,column,y,velocity,bounces; press:keys, with "+" between
 // them; wait:ms; rest:frames.
 using Words = std::vector<std::string>;
 using Acts = std::map<std::string, std::function<void(const Words&)>>;
-void playTable(const std::string& table, const Acts& acts = {});
+void playTable(const std::string& name, const Acts& acts = {});
 
 // Sets variables of the game: "goalScore=50 landOn=-1".
 void set(const std::string& settings);

@@ -29,27 +29,7 @@ TEST_F(KeysTest, LastKeyOfTheOrderActsBehindTheGate) {
                         for (const i16 count : itemStock) counts += std::to_string(count);
                         note("stock " + counts);
                       }}};
-  playTable(R"(
-  ....1 | ~0.55 ~0 fill press:1 stock | falls S5@0; lastKeyTick 2000; stock 011111
-  ....1 | ~0.55 ~0 fill press:2 stock | falls B5@25000; lastKeyTick 2000; stock 101111
-  ....1 | fill press:3 stock          | hears detonate; lastKeyTick 2000; stock 110111
-  ....1 | ~0.55 ~0 fill press:4 stock | falls W5@0; lastKeyTick 2000; stock 111011
-  ....1 | ~0.55 ~0 fill press:1+2 stock    | falls B5@25000; lastKeyTick 2000; stock 101111
-  ....1 | fill press:4+Left stock     | ...1; hears changerow; lastKeyTick 2000; stock 111111
-  // Without stock, and in a mode that lets none be used.
-  ....1 | press:1 press:2 press:3 press:4 stock | lastKeyTick 5000; stock 000000
-  ....1 | modeName=Other fill press:1 press:2 press:3 press:4 stock | lastKeyTick 5000; stock 111111
-  ....1 | press:Left+Right            | .....1; hears changerow; lastKeyTick 2000
-  ....1 | press:Right+Up     | hears stop _moverow moverow; lastKeyTick 2000; selectedRow 1
-  ....1 | selectedRow=3 press:Up+Down | hears stop _moverow moverow; lastKeyTick 2000; selectedRow 2
-  ....1 | press:Down+Escape           | gameOver -1; lastKeyTick 2000
-  ....1 | selectedRow=6 press:Up      | lastKeyTick 2000
-  ....1 | press                       | lastKeyTick 2000
-  // The gate is shut for 150 ms, also by a key that does nothing, but not by a dead event.
-  | press:Space press:Up,150          | lastKeyTick 2000
-  | press:Space press:Up,150 press:Up,1 | hears stop _moverow moverow; lastKeyTick 2151; selectedRow 1
-  )",
-            acts);
+  playTable("keys", acts);
   songNames = {"Band - Song"};
   fake::draws = {0, 0};
   for (i32 i = 0; i < 2; ++i) press("N", 0);
