@@ -117,7 +117,7 @@ TEST_F(DrawingTest, CountersAndGoalsStandInTheirOrder) {
   playTable("topband", acts);
 }
 
-TEST_F(DrawingTest, FrogsThatLeaveStartAnewUntilTheBonusIsOver) {
+TEST_F(DrawingTest, FrogsThatLeaveStartAgainUntilTheBonusIsOver) {
   frogBonusUntil = gameTick() + 1;
   frogs.assign(20, {1, 1900, 0, 9, 0, 1});
   frogsUpper = 19;

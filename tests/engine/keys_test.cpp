@@ -22,7 +22,7 @@ class KeysTest : public EngineTest {
   }
 };
 
-TEST_F(KeysTest, LastKeyOfTheOrderActsBehindTheGate) {
+TEST_F(KeysTest, LastKeyOfTheOrderActsOnceTheGateIsOpen) {
   const Acts acts = {{"fill", [](const Words&) { itemStock.fill(1); }},
                      {"stock", [](const Words&) {
                         std::string counts;

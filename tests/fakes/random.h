@@ -9,7 +9,7 @@
 // Queued draws, linked in the place of the game's random generator.
 namespace glonks::fake {
 
-// What rtcRandomNext gives, one after the other. With an empty queue it fails the test, unless
+// What rtcRandomNext returns, one after the other. With an empty queue it fails the test, unless
 // there is a generator.
 inline std::deque<double> draws;
 inline std::optional<RandomGenerator> generator;
