@@ -55,7 +55,8 @@ void lay(const std::string& rows, const std::string& due = "");
 // A piece in flight; as it is spawned, if no more is said.
 Piece& drop(char letter, i16 column, i16 y = 0, i16 velocity = 1, i16 bounces = 0);
 
-// Physics until nothing falls any more, all contacts with the first sound. Returns the number of frames.
+// Physics until nothing falls any more, all contacts with the first sound. Returns the number of
+// frames.
 i32 fallToRest();
 
 // The board as `lay` takes it, without free cells at a row's end and free rows at the top.
