@@ -59,18 +59,18 @@ class TempFolder : public ::testing::Test {
     }
   }
 
-  // Bytes of a game path, as they are.
-  static std::string bytesOf(const std::string& path) {
-    std::ifstream file(nativePath(path), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
-  static void putBytes(const std::string& path, const std::string& bytes) {
-    std::ofstream(nativePath(path), std::ios::binary) << bytes;
-  }
-  static bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
-
   std::filesystem::path folder;
 };
+
+// Bytes of a game path, as they are.
+inline std::string bytesOf(const std::string& path) {
+  std::ifstream file(nativePath(path), std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+inline void putBytes(const std::string& path, const std::string& bytes) {
+  std::ofstream(nativePath(path), std::ios::binary) << bytes;
+}
+inline bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
 
 // What the RuntimeError says that `action` raises; "no error" if it raises none.
 template <typename Action>

@@ -2,20 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+#include "base/text.h"
 #include "game/loading/newgame.h"
 #include "game/loading/pieces.h"
 #include "game/model/gametick.h"
+#include "game/model/mode.h"
 #include "game/model/resources.h"
-#include "present/keys.h"
-#include "present/pause.h"
 #include "present/screen/display.h"
-#include "present/screen/fconsole.h"
 #include "rules/falling.h"
-#include "shell/menucontrols.h"
-#include "storage/files/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/random.h"
 #include "tests/fakes/sound.h"
+#include "tests/fakes/surface.h"
 #include "tests/fakes/toolkit.h"
 #include "tests/fakes/window.h"
 #include "tests/tempfolder.h"
@@ -24,94 +24,88 @@ namespace glonks {
 
 using Names = std::vector<std::string>;
 using Numbers = std::vector<i32>;
+using Draws = std::deque<double>;
+using Action = std::function<void()>;
 
-// A Freestyle game that is set up, with an empty field, a silent list of sounds, no songs, a clock
-// at 1000 ms and no draws queued.
+// A Freestyle game that is set up: catalogue loaded, an empty board, no songs, a clock at 1000 ms
+// and no draws queued. All state of game and fakes is new in each test.
 class EngineTest : public TempFolder {
  protected:
-  EngineTest() {
-    fake::resetClock();
-    fake::useGenerator();
-    makeKeys(keySeed, keyDrawArgument, keyScale);
-    fake::resetRandom();
-    fake::resetToolkit();
-    fake::resetWindow();
-    fConsole_Show(readKeys, pauseByCloseBox);
-    initDX();
-    songNames.clear();
-    themeName = "Cells";
-    fake::queueDraw(0, 5);  // the plate
-    initVariables();
-    fake::resetSound();
-    // What an earlier test may have left of the values that outlast a game.
-    playfield.fill(Row{});
-    notesCollected = lastKeyTick = gameOver = 0;
-    tickBase = 0;
-    songIndex = -1;
-    modeName = "Freestyle";
-  }
-  ~EngineTest() override {
-    gameOver = True;
-    destroy();
-    EXPECT_TRUE(fake::draws.empty()) << "draws were not taken";
-  }
-
-  static Piece& entryAt(i16 slot) { return catalogEntry(slot); }
-
-  // A piece at rest.
-  static Cell& put(i16 row, i16 column, const std::string& name = "Glonk") {
-    Cell& cell = cellAt(row, column);
-    cell.occupied = True;
-    cell.name = name;
-    cell.column = column;
-    cell.y = floorOf(row);
-    return cell;
-  }
-
-  // A piece in flight; as it is spawned, if no more is said.
-  static Piece& drop(i16 column, const std::string& name = "Glonk", i16 y = 0, i16 velocity = 1,
-                     i16 bounces = 0) {
-    Piece& piece = grow(fallingPieces, fallingPiecesUpper);
-    piece.name = name;
-    piece.alive = True;
-    piece.column = column;
-    piece.y = y;
-    piece.velocity = velocity;
-    piece.bounces = bounces;
-    return piece;
-  }
-
-  // Physics until nothing falls any more, with contact sounds 1, 2, 3, 1 ... in turn. Gives the
-  // number of frames.
-  static i32 fallToRest() {
-    i32 frames = 0;
-    for (i32 contact = 0; fallingPiecesUpper >= 0 && frames < 1000; ++frames) {
-      for (; fake::draws.size() < 4; ++contact) fake::queueDraw(contact % 3, 3);
-      movePieces();
-      compactFalling();
-    }
-    fake::draws.clear();
-    return frames;
-  }
-
-  // Name, column, y, velocity and bounces.
-  static std::string stateOf(const Piece& piece) {
-    return piece.name + " " + std::to_string(piece.column) + " " + std::to_string(piece.y) + " " +
-           std::to_string(piece.velocity) + " " + std::to_string(piece.bounces);
-  }
-
-  // The rows from the highest that holds a piece, each as "A..B......": first letters of names.
-  static std::string field() {
-    std::string text;
-    for (i32 row = rowCount - 1; row >= 0; --row) {
-      text += "/";
-      for (i32 column = 0; column < columnCount; ++column) {
-        text += cellAt(row, column).occupied == True ? cellAt(row, column).name[0] : '.';
-      }
-      if (text == "/..........") text.clear();
-    }
-    return text;
-  }
+  EngineTest();
+  ~EngineTest() override;
 };
+
+// All state as a test finds it.
+void renew();
+
+// The game's variables as texts, by name; and each of them with another value.
+std::map<std::string, std::string> gameState();
+void dirtyGame();
+
+// The catalogue's piece of a letter: S Slammer, U Bauble, B Bomb, D Diamond, C Calculator of 30, c
+// of -40, G Gorgon, H Shifter, M Money, N Music, T BType, P Pin, R Rock, W Bowling Ball, 1 to 4
+// Glonks.
+Piece pieceOf(char letter);
+Piece& entryOf(char letter);
+
+// Lays a board of pieces at rest: rows from the top, parted by "/", a letter for each cell, "." for
+// a free one. Timers of the letters in `due` have run out, others never do.
+void lay(const std::string& rows, const std::string& due = "");
+
+// A piece in flight; as it is spawned, if no more is said.
+Piece& drop(char letter, i16 column, i16 y = 0, i16 velocity = 1, i16 bounces = 0);
+
+// Physics until nothing falls any more, all contacts with the first sound. Returns the number of
+// frames.
+i32 fallToRest();
+
+// The board as `lay` takes it, without free cells at a row's end and free rows at the top.
+std::string board();
+
+// Column, y, velocity and bounces: "1 at 3 520 -8 5".
+std::string stateOf(const Piece& piece);
+
+// Sounds since the last call without their "_": "slam01*2 coin01".
+std::string heard();
+
+// What runs on the ticker; "?" for a character without a picture.
+std::string ticker();
+
+// Takes down a remark for the outcome.
+void note(const std::string& remark);
+
+// All that has happened since `lay` and the settings, in parts with "; " between them, those left
+// out that tell nothing:
+//   S1.1S                    the board, if it has changed; "-" for an empty one
+//   falls G3@55000 12:435,0,4  letter and column of what falls; a timer's length or a Calculator's
+//                            value; y, velocity and bounces of what hasn't just been spawned
+//   arms C12000              timers at rest that have been set
+//   pops 10 impacts 1 zaps hv hears slam01*2 says VICTORY!
+//   score 5000               each variable of the game that has another value
+//   and remarks
+std::string outcome();
+
+// Plays a table of tables/, one case in a row: the board and the letters whose timers have run out,
+// then settings of the game's variables, draws ("~5/1000", "~0.75") and acts ("drop:W,3"), then the
+// outcome. Acts of every table: drop:letter,column,y,velocity,bounces; press:keys, with "+" between
+// them; wait:ms; rest:frames.
+using Words = std::vector<std::string>;
+using Acts = std::map<std::string, std::function<void(const Words&)>>;
+void playTable(const std::string& name, const Acts& acts = {});
+
+// Sets variables of the game: "goalScore=50 landOn=-1".
+void set(const std::string& settings);
+
+// Selects a mode and the level of file 7 on the page of the new game.
+void choose(const std::string& mode, const std::string& level);
+
+// What has been drawn since the last call.
+Names drawn();
+
+// A key event, well after the last one.
+void press(const std::string& keys, u32 wait = 1000);
+
+// The entries of the log, without their times.
+Names logged();
 
 }  // namespace glonks

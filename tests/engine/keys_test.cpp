@@ -1,105 +1,112 @@
+#include "present/pause.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
 
-constexpr i32 escape = 1, one = 2, three = 4, p = 25, n = 49, spaceBar = 57, up = 200, left = 203,
-              right = 205, down = 208;
-
 class KeysTest : public EngineTest {
  protected:
-  KeysTest() { songNames.push_back("Band - Song"); }
-
-  // A key event, as a rule well after the last one; gives the row under the pointer after it.
-  static i16 press(const std::vector<i32>& keys, u32 wait = 1000) {
-    fake::clockNow += wait;
-    fake::pressKeys(keys);
-    return selectedRow;
-  }
-
-  // A pause that P starts; each of `steps` is one key pressed inside it.
-  static void pauseWith(const std::vector<i32>& steps, u32 wait = 1000) {
+  // One step in each call of the messages inside a pause, which is drawn before the next.
+  static void pauseWith(const Action& start, const std::vector<Action>& steps) {
     std::size_t next = 0;
     fake::messages = [&] {
       EXPECT_TRUE(fake::musicHalted && fake::cursorShown == 1);
-      press({steps.at(next++)}, wait);
+      steps.at(next++)();
     };
-    press({p}, wait);
+    start();
     EXPECT_EQ(next, steps.size());
-    EXPECT_FALSE(fake::musicHalted || fake::cursorShown == 1);
+    EXPECT_FALSE(fake::musicHalted || fake::cursorShown == 1 || paused == True);
+    fake::messages = nullptr;
+  }
+  static Action key(const char* key, u32 wait = 1000) {
+    return [=] { press(key, wait); };
   }
 };
 
-TEST_F(KeysTest, ArrowsMoveThePointerBetweenItsEnds) {
-  for (i16 i = 0; i < 8; ++i) EXPECT_EQ(press({up}), std::min<i16>(i + 1, 6));
-  for (i16 i = 0; i < 8; ++i) EXPECT_EQ(press({down}), std::max<i16>(5 - i, 0));
-  EXPECT_EQ(fake::sounds.size(), 24U);  // 12 moves, each cut off and played
-  EXPECT_EQ(fake::sounds[0] + fake::sounds[1], "stop _moverow_moverow");
-}
-
-TEST_F(KeysTest, LastKeyOfTheOrderWins) {
-  put(0, 4);
-  itemStock.fill(1);
-  press({one, left});
-  EXPECT_EQ(itemStock[slammerItem], 1);
-  EXPECT_EQ(field(), "/...G......");
-  press({left, right});
-  EXPECT_EQ(field(), "/....G.....");
-  EXPECT_EQ(press({right, up}), 1);
-  EXPECT_EQ(press({up, down}), 0);
-  press({down, escape});
-  EXPECT_EQ(gameOver, True);
-}
-
-TEST_F(KeysTest, GateIsShutFor150MillisecondsAfterAnyKeyButN) {
-  press({spaceBar});  // does nothing, and shuts the gate all the same
-  EXPECT_EQ(press({up}, 150), 0);
-  EXPECT_EQ(press({up}, 1), 1);  // the dead event has not moved the gate
+TEST_F(KeysTest, LastKeyOfTheOrderActsOnceTheGateIsOpen) {
+  const Acts acts = {{"fill", [](const Words&) { itemStock.fill(1); }},
+                     {"stock", [](const Words&) {
+                        std::string counts;
+                        for (const i16 count : itemStock) counts += std::to_string(count);
+                        note("stock " + counts);
+                      }}};
+  playTable("keys", acts);
+  songNames = {"Band - Song"};
   fake::draws = {0, 0};
-  for (i32 i = 0; i < 2; ++i) press({n}, 0);
+  for (i32 i = 0; i < 2; ++i) press("N", 0);
   EXPECT_EQ(fake::songsOpened.size(), 2U);
 }
 
-TEST_F(KeysTest, ItemKeysSpendTheStockOfAFreestyleGame) {
-  loadPieces();
-  fake::useGenerator();
-  for (i16 slot = 0; slot < 4; ++slot) {
-    itemStock.fill(1);
-    modeName = "Other";
-    press({one + slot});
-    EXPECT_EQ(std::count(itemStock.begin(), itemStock.end(), 1), 6);
-    modeName = "Freestyle";
-    for (i32 i = 0; i < 2; ++i) press({one + slot});  // the second finds none
-    EXPECT_EQ(std::count(itemStock.begin(), itemStock.end(), 1), 5);
-    EXPECT_EQ(itemStock[static_cast<std::size_t>(slot)], 0);
-  }
-  EXPECT_EQ(fake::sounds, Names{"_detonate"});
-}
-
 TEST_F(KeysTest, DetonatorMakesAllBombsAtRestDue) {
-  Piece* const pieces[] = {&put(0, 2), &put(3, 2), &put(0, 3), &drop(7)};
-  for (Piece* piece : pieces) piece->expiry = piece->isBomb = True;
-  cellAt(3, 2).occupied = False;
-  cellAt(0, 3).isBomb = False;
+  lay("..B/..BU");
+  drop('B', 7).expiry = 5000;
+  cellAt(1, 2).occupied = False;
   itemStock[detonatorItem] = 1;
-  press({three});
-  EXPECT_EQ(pieces[0]->expiry, 0);
-  for (std::size_t i = 1; i < 4; ++i) EXPECT_EQ(pieces[i]->expiry, -1) << i;
+  press("3");
+  EXPECT_EQ((Numbers{cellAt(0, 2).expiry, cellAt(0, 3).expiry, cellAt(1, 2).expiry,
+                     fallingPieces[0].expiry}),
+            (Numbers{0, 1000000000, 1000000000, 5000}));
 }
 
 TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
+  songNames = {"Band - Song"};
   fake::draws = {0};
-  pauseWith({escape, up, left, n, p});
-  EXPECT_EQ((Numbers{gameTick(), gameOver, selectedRow}), (Numbers{2000, False, 0}));
-  EXPECT_EQ(fake::songsOpened.size(), 1U);
-  EXPECT_TRUE(fake::sounds.empty());
-  EXPECT_EQ(press({up}, 150), 0);  // P has shut the gate, by the time that goes on
-  EXPECT_EQ(press({up}, 1), 1);
-  pauseWith({p});
-  EXPECT_EQ(tickBase, 6000U);  // of both
+  pauseWith(key("P"), {key("Escape"), key("Up"), key("Left"), key("N"), key("P")});
+  EXPECT_EQ(outcome(), "lastKeyTick 2000; songIndex 0; songTitle Band - Song; tickBase 5000");
+  EXPECT_EQ((Numbers{gameTick(), static_cast<i32>(fake::songsOpened.size())}), (Numbers{2000, 1}));
+  Names frames;
+  for (i32 i = 0; i < 5; ++i) {
+    for (const char* line :
+         {"fill 0 whole", "Paused...  Press the P key to resume. at 10,20", "flip"}) {
+      frames.emplace_back(line);
+    }
+  }
+  EXPECT_EQ(drawn(), frames);
+  press("Up", 150);
+  EXPECT_EQ(selectedRow, 0);  // P has shut the gate, by the time that goes on
+  press("Up", 1);
+  EXPECT_EQ(selectedRow, 1);
   // A pause so short that the gate of the key before it is still shut when it ends.
   const i32 tick = lastKeyTick;
-  pauseWith({p}, 40);
-  EXPECT_EQ(lastKeyTick, tick);
+  pauseWith(key("P", 40), {key("P", 40)});
+  EXPECT_EQ((Numbers{lastKeyTick, static_cast<i32>(tickBase)}), (Numbers{tick, 5040}));
+}
+
+// Key events come together when the system has been held up.
+TEST_F(KeysTest, AnyNumberOfPausesTakesGameTimeBackToTheStartOfTheFirst) {
+  const auto twice = [] { press("P", 3000), press("P", 0); };
+  const std::vector<std::vector<Action>> cases = {
+      {twice, key("P", 60000)},
+      {twice, twice, key("P", 60000)},
+      {key("Up"), twice, key("Up", 60000), key("P")},
+  };
+  for (const auto& steps : cases) {
+    renew();
+    fake::clockNow = 1900;
+    pauseWith(key("P", 100), steps);
+    EXPECT_EQ(gameTick(), 2000);
+    press("Up", 151);
+    EXPECT_EQ((Numbers{selectedRow, lastKeyTick}), (Numbers{1, 2151}));
+  }
+}
+
+TEST_F(KeysTest, LostScreenIsWaitedForWithoutDrawing) {
+  const auto lose = [] { fake::screenIsLost = true; };
+  const auto wait = [] { EXPECT_TRUE(drawn().empty()); };
+  const auto regain = [] { fake::screenIsLost = false; };
+  pauseWith(togglePause, {lose, wait, wait, regain, key("P")});
+  EXPECT_EQ(drawn()[0], "surfaces restored");
+}
+
+TEST_F(KeysTest, CloseBoxPausesAGameInPlayAndTellsHowToEndIt) {
+  pauseByCloseBox();  // no game in play
+  EXPECT_EQ(fake::windowTitle, "");
+  inPlay = True;
+  const auto told = [] { EXPECT_PRED2(holds, fake::windowTitle, "Escape to end"); };
+  pauseWith(pauseByCloseBox, {told, pauseByCloseBox, told, key("P")});
+  EXPECT_EQ(fake::windowTitle, "Click to resume play");
+  pauseWith(togglePause, {pauseByCloseBox, told, key("P")});
+  EXPECT_EQ(fake::windowTitle, "Click to resume play");
+  EXPECT_EQ(gameTick(), 1000);
 }
 
 }  // namespace glonks

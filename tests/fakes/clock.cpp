@@ -4,22 +4,9 @@
 
 namespace glonks {
 
-namespace fake {
-
-void resetClock() {
-  clockNow = 1000;
-  sleeps = 0;
-  nextSeed = 1;
-}
-
-}  // namespace fake
-
 u32 GetTickCount() { return fake::clockNow; }
 
-void sleepToNextTick() {
-  ++fake::sleeps;
-  ++fake::clockNow;
-}
+void sleepToNextTick() { ++fake::sleeps, ++fake::clockNow; }
 
 i32 clockSeed() { return fake::nextSeed++; }
 std::string dateText() { return "01/02/03"; }

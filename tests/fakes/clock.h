@@ -5,10 +5,10 @@
 // A clock that stands still until it is set; linked in the place of the real one.
 namespace glonks::fake {
 
-inline u32 clockNow = 1000;  // what GetTickCount gives, ms
+inline u32 clockNow = 1000;  // what GetTickCount returns, ms
 inline u32 sleeps = 0;       // calls of sleepToNextTick; each moves the clock by 1 ms
-inline i32 nextSeed = 1;     // what clockSeed gives next; each call counts it up
+inline i32 nextSeed = 1;     // what clockSeed returns next; each call counts it up
 
-void resetClock();
+inline void resetClock() { clockNow = 1000, sleeps = 0, nextSeed = 1; }
 
 }  // namespace glonks::fake

@@ -4,21 +4,6 @@
 
 namespace glonks {
 
-namespace fake {
-
-void resetToolkit() {
-  boxes.clear();
-  yes = False;
-  asked = nullptr;
-  typed.clear();
-  forms.clear();
-  opened.clear();
-  messages = nullptr;
-  messagePasses = 0;
-}
-
-}  // namespace fake
-
 void startToolkit() {}
 std::filesystem::path folderOfProgram() { return {}; }
 void showForm(Form& form, Handler /*load*/) { fake::forms.push_back("show " + form.caption); }

@@ -9,17 +9,22 @@
 // A toolkit without a screen, linked in the place of the real one.
 namespace glonks::fake {
 
-inline std::vector<std::string> boxes;   // texts of all dialogs, in order
-inline Flag yes = False;                 // what yesNoBox gives
-inline std::function<void()> asked;      // runs when yesNoBox asks
-inline std::string typed;                // what inputBox gives
-inline std::vector<std::string> forms;   // "show Glonks", "hide Glonks" ...
-inline std::vector<std::string> opened;  // addresses and programs, in order
+struct Shown {
+  std::vector<std::string> boxes;   // texts of all dialogs, in order
+  Flag yes = False;                 // what yesNoBox returns
+  std::function<void()> asked;      // runs when yesNoBox asks
+  std::string typed;                // what inputBox returns
+  std::vector<std::string> forms;   // "show Glonks", "hide Glonks" ...
+  std::vector<std::string> opened;  // addresses and programs, in order
+  // Runs at each letFormMessagesThrough, where events would be handled; counts the calls.
+  std::function<void()> messages;
+  i32 messagePasses = 0;
+};
+inline Shown shown;
+inline void resetToolkit() { shown = {}; }
 
-// Runs at each letFormMessagesThrough, where events would be handled; counts the calls.
-inline std::function<void()> messages;
-inline i32 messagePasses = 0;
-
-void resetToolkit();
+// The record's fields by their own names, in its order.
+[[maybe_unused]] static auto& [boxes, yes, asked, typed, forms, opened, messages, messagePasses] =
+    shown;
 
 }  // namespace glonks::fake
