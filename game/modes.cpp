@@ -16,18 +16,18 @@ const Mode table[] = {
          "only goal is that elusive high score.",
      .levelItems = {nothingToSelect},
      .framePicture = "frame",
-     .levelFile = freestyleLevel,
      .loop = play,
-     .itemKeys = True,
+     .levelFile = freestyleLevel,
      .counter = Counter::stock,
+     .itemKeys = True,
      .scoreTable = True},
     // Oddity 8: the item keys work here too, though no counter shows the stock.
     {.modeTitle = "Arcade",
      .modeDescription =
          "Every level challenges you with new situations and new goals.  How far can you go?",
      .framePicture = "frameA",
-     .hasGoals = True,
      .loop = playArcade,
+     .hasGoals = True,
      .itemKeys = True},
     {.modeTitle = "B-Type",
      .modeDescription =

@@ -127,8 +127,9 @@ std::string fieldOf(const std::string& line, i32 place) {
     const bool quoted = at < line.size() && line[at] == '"';
     const std::size_t from = quoted ? at + 1 : at;
     const std::size_t end = std::min(line.find(quoted ? '"' : ',', from), line.size());
-    if (place == 0)
+    if (place == 0) {
       return quoted ? line.substr(from, end - from) : trimmed(line.substr(from, end - from));
+    }
     at = line.find(',', end);
     if (at == std::string::npos) return "";
     ++at;

@@ -16,13 +16,12 @@ struct Mode {
   std::string modeDescription = {};          // text for tModeDesc
   std::vector<std::string> levelItems = {};  // what tLevels shows; empty: the open Arcade levels
   std::string framePicture = {};             // name in "\images\"; empty leaves the frame as it is
+  void (*loop)() = nullptr;                  // plays one game; nullptr: can't be played yet
   i32 levelFile = 0;                         // number in "\levels\"; 0: that of the level selected
-  Flag hasGoals = False;     // its level files have a title, a reward and goals; a level has to be
-                             // selected
-  void (*loop)() = nullptr;  // plays one game; nullptr: can't be played yet
-  Flag itemKeys = False;     // goods of the stock may be used
-  Counter counter = Counter::none;  // `pieces`: bTypeLeft
-  Flag scoreTable = False;          // scores enter the high score table
+  Counter counter = Counter::none;           // left of credits and notes; `pieces`: bTypeLeft
+  Flag hasGoals = False;    // its levels have titles, rewards and goals, and one is to be selected
+  Flag itemKeys = False;    // goods of the stock may be used
+  Flag scoreTable = False;  // scores enter the high score table
 };
 
 inline Mode gameMode;  // the mode that is played, or was played last; set by the Play button

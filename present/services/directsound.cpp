@@ -24,8 +24,9 @@ std::vector<unsigned char> waveBytes(const std::string& path) {
   Uint8* samples = nullptr;
   Uint32 length = 0;
   SDL_RWops* memory = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-  if (SDL_LoadWAV_RW(memory, 1, &format, &samples, &length) == nullptr)
+  if (SDL_LoadWAV_RW(memory, 1, &format, &samples, &length) == nullptr) {
     fail(ErrorNumber::badFile, unusable(path));
+  }
   SDL_FreeWAV(samples);
   if (length == 0) fail(ErrorNumber::badFile, unusable(path), "it holds no sound");
   return bytes;

@@ -32,8 +32,9 @@ std::string unusable(const std::string& name) { return "The font \"" + name + "\
 
 // The file of the font that the system has for a name.
 std::string fontFile(const std::string& name) {
-  if (FcInit() != FcTrue)
+  if (FcInit() != FcTrue) {
     fail(ErrorNumber::serviceFailed, unusable(name), "the list of fonts can't be read");
+  }
   const std::unique_ptr<FcPattern, void (*)(FcPattern*)> wanted(FcPatternCreate(),
                                                                 FcPatternDestroy);
   FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.c_str()));

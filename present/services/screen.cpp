@@ -34,8 +34,9 @@ void createTexture() {
   if (texture != nullptr) SDL_DestroyTexture(texture);
   texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
                               pictureWidth, pictureHeight);
-  if (texture == nullptr)
+  if (texture == nullptr) {
     fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
+  }
   SDL_SetTextureScaleMode(texture, SDL_ScaleModeLinear);
 }
 
@@ -54,8 +55,9 @@ void showTexture(const u32* pixels) {
   std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
   if (!upload(pixels)) {
     createTexture();  // a display that was reset takes its textures with it
-    if (!upload(pixels))
+    if (!upload(pixels)) {
       fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
+    }
   }
   SDL_RenderClear(renderer);
   SDL_RenderCopy(renderer, texture, nullptr, nullptr);
