@@ -55,7 +55,7 @@ std::string putAside(const std::string& path) {
 
 // Returns where the damaged file stands now.
 std::string replaceDamaged(const PlayersFile& file, const Lines& lines) {
-  const std::string aside = putAside(pathOf(file));
+  std::string aside = putAside(pathOf(file));
   try {
     writePlayersFile(file, lines);
   } catch (const RuntimeError&) {

@@ -159,12 +159,12 @@ class LevelCheck {
     level.rewardName = textOf("rewardLevelName", readLine);
     level.reward = toNumber(textOf("rewardLevelFile", readLine));
     // The order of the file.
-    const Goals goals = {readCounted("goalPieceCount", "goalPieceName"),
-                         readScore(),
-                         readTimer("limitMinutes", "limitSeconds"),
-                         readTimer("surviveMinutes", "surviveSeconds"),
-                         readCounted("avoidLeft", "avoidName"),
-                         readCounted("landLeft", "landName")};
+    Goals goals = {readCounted("goalPieceCount", "goalPieceName"),
+                   readScore(),
+                   readTimer("limitMinutes", "limitSeconds"),
+                   readTimer("surviveMinutes", "surviveSeconds"),
+                   readCounted("avoidLeft", "avoidName"),
+                   readCounted("landLeft", "landName")};
     checkTogether(goals);
     return goals;
   }
