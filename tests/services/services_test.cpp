@@ -64,7 +64,6 @@ TEST(Surface, BlitsShowTheirSourceAsItIsAndAreCutOffAtAllEdges) {
 TEST(Surface, BlitsStretchSmoothlyOrWithoutAFringe) {
   const Surface source = plain(20, 20, white), target = plain(60, 80, blue);
   source->BltColorFill({0, 0, 10, 20}, red);
-  EXPECT_NE(target->Blt({0, 0, 4, 3}, source, {2, 2, 2, 3}, bltOpaque), 0);
   target->Blt({}, source, {-10, -20, 20, 20}, bltKeyed);  // nothing from outside the picture
   const Surface expected = plain(60, 80, blue);
   expected->BltColorFill({20, 40, 40, 80}, red);
@@ -156,12 +155,13 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   // key is for another program.
   constexpr Uint32 key = SDL_KEYDOWN, win = SDL_WINDOWEVENT;
   const std::tuple<Uint32, int, i32, bool> events[] = {
-      {key, SDL_SCANCODE_P, 25, false},          {win, SDL_WINDOWEVENT_FOCUS_LOST, 0, true},
-      {key, SDL_SCANCODE_RIGHT, 0, true},        {win, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
-      {key, SDL_SCANCODE_DOWN, 0, false},        {key, SDL_SCANCODE_LEFT, 203, false},
-      {SDL_KEYUP, SDL_SCANCODE_DOWN, 0, false},  {key, SDL_SCANCODE_DOWN, 203 + 208, false},
-      {win, SDL_WINDOWEVENT_MINIMIZED, 0, true}, {win, SDL_WINDOWEVENT_RESTORED, 0, false},
-      {win, SDL_WINDOWEVENT_MINIMIZED, 0, true}, {win, SDL_WINDOWEVENT_CLOSE, -1, true}};
+      {key, SDL_SCANCODE_P, 25, false},           {win, SDL_WINDOWEVENT_FOCUS_LOST, 0, true},
+      {key, SDL_SCANCODE_RIGHT, 0, true},         {win, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
+      {key, SDL_SCANCODE_DOWN, 0, false},         {key, SDL_SCANCODE_LEFT, 203, false},
+      {SDL_KEYUP, SDL_SCANCODE_DOWN, 0, false},   {key, SDL_SCANCODE_DOWN, 203 + 208, false},
+      {win, SDL_WINDOWEVENT_MINIMIZED, 0, true},  {win, SDL_WINDOWEVENT_RESTORED, 0, false},
+      {win, SDL_WINDOWEVENT_FOCUS_LOST, 0, true}, {win, SDL_WINDOWEVENT_FOCUS_GAINED, 0, false},
+      {win, SDL_WINDOWEVENT_MINIMIZED, 0, true},  {win, SDL_WINDOWEVENT_CLOSE, -1, true}};
   for (const auto& [type, what, expected, lost] : events) {
     EXPECT_TRUE(send(type, what) == expected && screenLost() == lost) << type << ", " << what;
   }
@@ -246,8 +246,8 @@ TEST_F(Sound, IsLoadedAndPlayedWithAndWithoutADevice) {
   BASS_StreamPlay(second, 0, 0);
   EXPECT_EQ(Mix_PausedMusic(), 1) << "a song started in a pause waits";
   BASS_StreamFree(first);
-  EXPECT_TRUE(BASS_ChannelIsActive(first) == 0 && BASS_ChannelIsActive(second) != 0)
-      << "one song at a time, and an old handle frees nothing";
+  // One song at a time, and an old handle frees nothing.
+  EXPECT_TRUE(BASS_ChannelIsActive(first) == 0 && BASS_ChannelIsActive(second) != 0);
 }
 
 }  // namespace
