@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "base/errors.h"
@@ -14,28 +13,20 @@
 namespace glonks {
 
 // A folder of its own for one test, made the program's folder and deleted at the end. It has all
-// that the game reads, by links, and the player's files as they are at first; tests that write
-// other data files begin with ownDataFolders.
+// that the game reads, by links or as copies, and the player's files as they are at first; tests
+// that write other data files begin with ownDataFolders.
 class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
     namespace fs = std::filesystem;
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    std::string name = std::string(info->test_suite_name()) + "." + info->name();
-    for (char& c : name) c = c == '/' ? '_' : c;
-    folder = fs::temp_directory_path() / ("glonks." + std::to_string(getpid()) + "." + name);
+    folder = fs::temp_directory_path() / ("glonks." + std::to_string(getpid()));
     fs::remove_all(folder);
     fs::create_directories(folder);
-    const fs::path game = GLONKS_GAME_FOLDER;
     for (const char* part : {"images", "sounds", "music", "themes", "levels", "first"}) {
-      fs::create_directory_symlink(game / part, folder / part);
+      fs::create_directory_symlink(gameFolder / part, folder / part);
     }
-    ownFolderOfLinks("init");
-    for (const auto& file : fs::directory_iterator(game / "first")) {
-      const fs::path own = folder / "init" / file.path().filename();
-      fs::remove(own);
-      fs::create_symlink(file.path(), own);
-    }
+    fs::copy(gameFolder / "init", folder / "init");
+    fs::copy(gameFolder / "first", folder / "init", fs::copy_options::overwrite_existing);
     setProgramFolder(folder);
   }
   ~TempFolder() override { std::filesystem::remove_all(folder); }
@@ -51,14 +42,14 @@ class TempFolder : public ::testing::Test {
   // Links to the single files of one of the game's folders, so that some can be taken out and
   // others put in.
   void ownFolderOfLinks(const std::string& part) const {
-    namespace fs = std::filesystem;
-    fs::remove_all(folder / part);
-    fs::create_directory(folder / part);
-    for (const auto& file : fs::directory_iterator(fs::path(GLONKS_GAME_FOLDER) / part)) {
-      fs::create_symlink(file.path(), folder / part / file.path().filename());
+    std::filesystem::remove_all(folder / part);
+    std::filesystem::create_directory(folder / part);
+    for (const auto& file : std::filesystem::directory_iterator(gameFolder / part)) {
+      create_symlink(file.path(), folder / part / file.path().filename());
     }
   }
 
+  const std::filesystem::path gameFolder = GLONKS_GAME_FOLDER;
   std::filesystem::path folder;
 };
 
@@ -73,8 +64,7 @@ inline void putBytes(const std::string& path, const std::string& bytes) {
 inline bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
 
 // What the RuntimeError says that `action` raises; "no error" if it raises none.
-template <typename Action>
-std::string errorOf(Action action) {
+std::string errorOf(const auto& action) {
   try {
     action();
   } catch (const RuntimeError& error) {
