@@ -106,13 +106,13 @@ TEST_F(Files, ThatAreDamagedAreToldByName) {
   const std::tuple<std::string, std::size_t, std::string, const char*> table[] = {
       {old, 20, "\1\x20", "out of range"}, {apple.substr(0, 25), 0, "", "no bitmap"},
       {apple, 20, "\1", "out of range"},   {apple.substr(0, apple.size() - 5), 0, "", "\\bmp"},
-      {apple, 25, "\x80", "out of range"}, {pop.substr(0, 40).append(4, 0), 0, "", "\\wav"},
-      {apple, 0, "GIF89a", "no bitmap"},   {pop.substr(0, pop.size() - 9), 0, "", "\\wav"},
-      {apple, 28, "\7", "\\bmp"},          {"", 0, "", "\\wav"}};
+      {apple, 25, "\x80", "out of range"}, {pop.substr(0, 40).append(4, 0), 0, "", "sound \"\\wav"},
+      {apple, 0, "GIF89a", "no bitmap"},   {pop.substr(0, pop.size() - 9), 0, "", "sound \"\\wav"},
+      {apple, 28, "\7", "\\bmp"},          {"", 0, "", "\\bmp\" is empty"}};
   for (auto [bytes, at, others, error] : table) {
     bytes.replace(at, others.size(), others);
-    const auto action = [&, &b = bytes, &e = error] { load(holds(e, "wav") ? e : "\\bmp", b); };
-    EXPECT_PRED2(holds, errorOf(action), error);
+    const auto run = [&, &b = bytes, &e = error] { load(holds(e, "wav") ? "\\wav" : "\\bmp", b); };
+    EXPECT_PRED2(holds, errorOf(run), error);
   }
 }
 
