@@ -7,6 +7,7 @@
 
 #include "game/modes.h"
 #include "present/keys.h"
+#include "present/music.h"
 #include "present/pause.h"
 #include "present/screen/fconsole.h"
 #include "present/services/bass.h"
@@ -31,8 +32,8 @@
 #define OTHER_STATE                                                                              \
   themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,  \
       mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode, \
-      tLevels, fake::clockNow, fake::sleeps, fake::nextSeed, fake::draws, fake::generator,       \
-      fake::seedings, fake::shown, fake::seen, fake::heard, fake::drawn, fake::onPicture
+      tLevels, fake::clockNow, fake::nextSeed, fake::draws, fake::generator, fake::shown,        \
+      fake::seen, fake::heard, fake::drawn, fake::onPicture
 #define STRING_OF(...) #__VA_ARGS__
 #define NAMES_OF(list) STRING_OF(list)
 
@@ -62,7 +63,6 @@ auto readyState() {
   drawn();
   heard();
   fake::samplesLoaded.clear();
-  fake::seedings = 0;
   fake::picturesShown = 0;
   return copyOf(allState());
 }
@@ -153,6 +153,11 @@ State before;  // what outcome compares with
 std::string boardBefore;
 std::string remarks;
 
+void beginLog() {
+  logEnabled = True;
+  openLog();
+}
+
 void startFromHere() {
   before = singles();
   boardBefore = board();
@@ -242,10 +247,14 @@ void playRow(const std::string& row, const Acts& acts) {
 void renew() {
   static const auto ready = readyState();
   allState() = ready;
+  forgetFailedSongs();
   startFromHere();
 }
 
-EngineTest::EngineTest() { renew(); }
+EngineTest::EngineTest() {
+  renew();
+  beginLog();
+}
 
 EngineTest::~EngineTest() {
   EXPECT_TRUE(fake::draws.empty()) << "draws were not taken";
@@ -440,11 +449,13 @@ void press(const std::string& keys, u32 wait) {
 
 Names logged() {
   Names entries;
+  closeLog();
   std::istringstream log(bytesOf("\\log.txt"));
   for (std::string line; std::getline(log, line, '\r'); log.get()) {
     const std::size_t at = line.find(" :: ");
     if (at != std::string::npos) entries.push_back(line.substr(at + 4));
   }
+  beginLog();
   return entries;
 }
 

@@ -105,7 +105,7 @@ Names drawn();
 // A key event, well after the last one.
 void press(const std::string& keys, u32 wait = 1000);
 
-// The entries of the log, without their times.
+// The entries of the log since the last call, without their times.
 Names logged();
 
 }  // namespace glonks

@@ -1,4 +1,6 @@
+#include "present/keys.h"
 #include "present/pause.h"
+#include "present/screen/fconsole.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
@@ -22,34 +24,9 @@ class KeysTest : public EngineTest {
   }
 };
 
-TEST_F(KeysTest, LastKeyOfTheOrderActsOnceTheGateIsOpen) {
-  const Acts acts = {{"fill", [](const Words&) { itemStock.fill(1); }},
-                     {"stock", [](const Words&) {
-                        std::string counts;
-                        for (const i16 count : itemStock) counts += std::to_string(count);
-                        note("stock " + counts);
-                      }}};
-  playTable("keys", acts);
-  songNames = {"Band - Song"};
-  fake::draws = {0, 0};
-  for (i32 i = 0; i < 2; ++i) press("N", 0);
-  EXPECT_EQ(fake::songsOpened.size(), 2U);
-}
-
-TEST_F(KeysTest, DetonatorMakesAllBombsAtRestDue) {
-  lay("..B/..BU");
-  drop('B', 7).expiry = 5000;
-  cellAt(1, 2).occupied = False;
-  itemStock[detonatorItem] = 1;
-  press("3");
-  EXPECT_EQ((Numbers{cellAt(0, 2).expiry, cellAt(0, 3).expiry, cellAt(1, 2).expiry,
-                     fallingPieces[0].expiry}),
-            (Numbers{0, 1000000000, 1000000000, 5000}));
-}
-
 TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
   songNames = {"Band - Song"};
-  fake::draws = {0};
+  fake::draws = {0, 0};
   pauseWith(key("P"), {key("Escape"), key("Up"), key("Left"), key("N"), key("P")});
   EXPECT_EQ(outcome(), "lastKeyTick 2000; songIndex 0; songTitle Band - Song; tickBase 5000");
   EXPECT_EQ((Numbers{gameTick(), static_cast<i32>(fake::songsOpened.size())}), (Numbers{2000, 1}));
@@ -65,6 +42,8 @@ TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
   EXPECT_EQ(selectedRow, 0);  // P has shut the gate, by the time that goes on
   press("Up", 1);
   EXPECT_EQ(selectedRow, 1);
+  press("N", 0);
+  EXPECT_EQ(fake::songsOpened.size(), 2U);
   // A pause so short that the gate of the key before it is still shut when it ends.
   const i32 tick = lastKeyTick;
   pauseWith(key("P", 40), {key("P", 40)});
@@ -89,14 +68,6 @@ TEST_F(KeysTest, AnyNumberOfPausesTakesGameTimeBackToTheStartOfTheFirst) {
   }
 }
 
-TEST_F(KeysTest, LostScreenIsWaitedForWithoutDrawing) {
-  const auto lose = [] { fake::screenIsLost = true; };
-  const auto wait = [] { EXPECT_TRUE(drawn().empty()); };
-  const auto regain = [] { fake::screenIsLost = false; };
-  pauseWith(togglePause, {lose, wait, wait, regain, key("P")});
-  EXPECT_EQ(drawn()[0], "surfaces restored");
-}
-
 TEST_F(KeysTest, CloseBoxPausesAGameInPlayAndTellsHowToEndIt) {
   pauseByCloseBox();  // no game in play
   EXPECT_EQ(fake::windowTitle, "");
@@ -107,6 +78,23 @@ TEST_F(KeysTest, CloseBoxPausesAGameInPlayAndTellsHowToEndIt) {
   pauseWith(togglePause, {pauseByCloseBox, told, key("P")});
   EXPECT_EQ(fake::windowTitle, "Click to resume play");
   EXPECT_EQ(gameTick(), 1000);
+}
+
+TEST_F(KeysTest, ScreenInputAndMusicAreTakenAndGivenBack) {
+  for (i32 game = 0; game < 2; ++game) {
+    fConsole_Show(readKeys, pauseByCloseBox);
+    gameOver = False;
+    initDX();
+    EXPECT_EQ((Numbers{fake::cursorShown, fake::musicReady}), (Numbers{0, 1}));
+    fConsole_Unload();
+    EXPECT_TRUE(fake::windowOpen) << "can't be closed in a game";
+    for (i32 time = 0; time < 2; ++time) {
+      gameOver = True;
+      destroy();
+      EXPECT_FALSE(fake::windowOpen || fake::musicReady || dd || dx);
+      EXPECT_EQ((Numbers{fake::cursorShown, fConsole.hWnd, gameOver}), (Numbers{1, 0, True}));
+    }
+  }
 }
 
 }  // namespace glonks

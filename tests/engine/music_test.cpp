@@ -1,14 +1,10 @@
 #include "present/music.h"
 
-#include "storage/files/log.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
 
-class MusicTest : public EngineTest {
- protected:
-  MusicTest() { forgetFailedSongs(); }
-};
+class MusicTest : public EngineTest {};
 
 TEST_F(MusicTest, NextSongIsNeverTheOneBeforeIfThereIsAnother) {
   nextSong();  // none is silence
@@ -25,8 +21,6 @@ TEST_F(MusicTest, NextSongIsNeverTheOneBeforeIfThereIsAnother) {
 }
 
 TEST_F(MusicTest, SongLineStartsTheNextSongAndGivesUpThoseThatCantBePlayed) {
-  logEnabled = True;
-  openLog();
   songNames = {"A", "B"};
   fake::brokenSongs = {"\\music\\A"};
   fake::draws = {0, 0.9};

@@ -6,7 +6,7 @@ namespace glonks {
 
 u32 GetTickCount() { return fake::clockNow; }
 
-void sleepToNextTick() { ++fake::sleeps, ++fake::clockNow; }
+void sleepToNextTick() { ++fake::clockNow; }
 
 i32 clockSeed() { return fake::nextSeed++; }
 std::string dateText() { return "01/02/03"; }

@@ -6,9 +6,8 @@
 namespace glonks::fake {
 
 inline u32 clockNow = 1000;  // what GetTickCount returns, ms
-inline u32 sleeps = 0;       // calls of sleepToNextTick; each moves the clock by 1 ms
 inline i32 nextSeed = 1;     // what clockSeed returns next; each call counts it up
 
-inline void resetClock() { clockNow = 1000, sleeps = 0, nextSeed = 1; }
+inline void resetClock() { clockNow = 1000, nextSeed = 1; }
 
 }  // namespace glonks::fake

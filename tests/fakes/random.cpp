@@ -7,7 +7,6 @@
 namespace glonks {
 
 void rtcRandomize(i32 number) {
-  ++fake::seedings;
   if (fake::generator) fake::generator->randomize(number);
 }
 

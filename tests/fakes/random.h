@@ -13,7 +13,6 @@ namespace glonks::fake {
 // there is a generator.
 inline std::deque<double> draws;
 inline std::optional<RandomGenerator> generator;
-inline i32 seedings = 0;  // calls of rtcRandomize
 
 // The draw that makes drawBelow(count) give `result`.
 constexpr double drawOf(i32 result, i32 count) { return (result + 0.5) / count; }

@@ -22,14 +22,13 @@ struct Heard {
   bool songEnded = false;                  // the song that plays has come to its end
   bool musicHalted = false;
   i32 songVolume = -1;
-  std::string soundNotice;  // what takeSoundNotice returns next
 };
 inline Heard heard;
 inline void resetSound() { heard = {}; }
 
 // The record's fields by their own names, in its order.
 [[maybe_unused]] static auto& [sounds, brokenSamples, samplesLoaded, musicReady, songsOpened,
-                               brokenSongs, songPlaying, songEnded, musicHalted, songVolume,
-                               soundNotice] = heard;
+                               brokenSongs, songPlaying, songEnded, musicHalted, songVolume] =
+    heard;
 
 }  // namespace glonks::fake

@@ -16,7 +16,7 @@ namespace glonks::fake {
 inline std::vector<std::string> drawn;
 
 // Runs with a picture's name before it is loaded or drawn, and may raise.
-inline std::function<void(const std::string& name)> onPicture;
+inline std::function<void(const std::string& name)> onPicture = [](const std::string&) {};
 
 // The name of a picture's file without folder and ending, empty for none.
 std::string nameOf(const Surface& picture);

@@ -10,21 +10,17 @@
 namespace glonks::fake {
 
 struct Shown {
-  std::vector<std::string> boxes;   // texts of all dialogs, in order
-  Flag yes = False;                 // what yesNoBox returns
-  std::function<void()> asked;      // runs when yesNoBox asks
-  std::string typed;                // what inputBox returns
-  std::vector<std::string> forms;   // "show Glonks", "hide Glonks" ...
-  std::vector<std::string> opened;  // addresses and programs, in order
-  // Runs at each letFormMessagesThrough, where events would be handled; counts the calls.
+  std::vector<std::string> boxes;  // texts of all dialogs, in order
+  Flag yes = False;                // what yesNoBox returns
+  std::function<void()> asked;     // runs when yesNoBox asks
+  std::string typed;               // what inputBox returns
+  // Runs at each letFormMessagesThrough, where events would be handled.
   std::function<void()> messages;
-  i32 messagePasses = 0;
 };
 inline Shown shown;
 inline void resetToolkit() { shown = {}; }
 
 // The record's fields by their own names, in its order.
-[[maybe_unused]] static auto& [boxes, yes, asked, typed, forms, opened, messages, messagePasses] =
-    shown;
+[[maybe_unused]] static auto& [boxes, yes, asked, typed, messages] = shown;
 
 }  // namespace glonks::fake

@@ -15,9 +15,6 @@ struct Seen {
   KeyState keys = {};  // by scan code
   bool screenIsLost = false;
   i32 picturesShown = 0;
-  i32 watchedX = 0;  // a place on the screen, and what the last picture showed there
-  i32 watchedY = 0;
-  u32 watchedPixel = 0;
   bool windowOpen = false;
   WindowEvents windowEvents;
   std::string windowTitle;               // as last set
@@ -28,9 +25,8 @@ inline Seen seen;
 inline void resetWindow() { seen = {}; }
 
 // The record's fields by their own names, in its order.
-[[maybe_unused]] static auto& [keys, screenIsLost, picturesShown, watchedX, watchedY, watchedPixel,
-                               windowOpen, windowEvents, windowTitle, cursorShown, windowMessages] =
-    seen;
+[[maybe_unused]] static auto& [keys, screenIsLost, picturesShown, windowOpen, windowEvents,
+                               windowTitle, cursorShown, windowMessages] = seen;
 
 // The keys that are down, and a key event for them.
 void pressKeys(const std::vector<i32>& scanCodes);
