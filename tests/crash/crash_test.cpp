@@ -4,7 +4,7 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <functional>
+#include <set>
 #include <vector>
 
 #include "game/model/model.h"
@@ -20,10 +20,11 @@ namespace glonks {
 namespace {
 
 using Texts = std::vector<std::string>;
+using CrashTest = TempFolder;
 
 // Runs `action` in a process of its own and kills that at its n-th stop before or after a system
 // call. True if it has come to its end by itself.
-bool finishesWithin(int stops, const std::function<void()>& action) {
+bool finishesWithin(i32 stops, void (*action)()) {
   const pid_t child = fork();
   if (child == 0) {
     ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
@@ -32,79 +33,53 @@ bool finishesWithin(int stops, const std::function<void()>& action) {
     _exit(0);
   }
   int status = 0;
-  waitpid(child, &status, 0);
-  while (WIFSTOPPED(status) && stops-- > 0) {
+  while (waitpid(child, &status, 0) == child && WIFSTOPPED(status)) {
+    if (stops-- <= 0) kill(child, SIGKILL);
     ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-    waitpid(child, &status, 0);
   }
-  if (WIFEXITED(status)) return true;
-  kill(child, SIGKILL);
-  waitpid(child, &status, 0);
-  return false;
+  return WIFEXITED(status);
 }
 
-void loadAll() {
+// So many levels that their file takes more than one write.
+void startAndSaveAll() {
   readScores();
   readStore();
   readOpenLevels();
-}
-
-void changeAndSaveAll() {
   highScores[3] = {"Newcomer", 14000};
   bank = 1234;
-  addOpenLevel({"Reward", 3102});
+  for (i32 level = 0; level < 200; ++level) addOpenLevel({"Reward", 3102});
   writeScores();
   writeStore();
   writeOpenLevels();
 }
 
-class CrashTest : public TempFolder {
- protected:
-  static Texts files() {
-    Texts bytes;
-    for (const std::string& path : paths) bytes.push_back(bytesOf(path));
-    return bytes;
-  }
-  static void put(const Texts& bytes) {
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-      std::filesystem::remove(nativePath(paths[i]));
-      putBytes(paths[i], bytes[i]);
-    }
-  }
-  inline static const Texts paths = {pathOf(scoresFile), pathOf(storeFile), pathOf(levelsFile)};
-};
+const Texts paths = {pathOf(scoresFile), pathOf(storeFile), pathOf(levelsFile)};
 
-// Killed at every step of the saves, each file is the old one or the new one, and neither what is
-// left lying nor the next start minds.
+Texts files() {
+  Texts bytes;
+  for (const std::string& path : paths) bytes.push_back(bytesOf(path));
+  return bytes;
+}
+
+// Killed at every step of a start and the saves, each file is the old one or the new one, and
+// neither what is left lying nor the next start minds.
 TEST_F(CrashTest, EveryFileIsTheOldOrTheNewOne) {
   fake::useGenerator();
   makeKeys(keySeed, keyDrawArgument, keyScale);
-  std::string levels;  // many, so that their file takes more than one write
-  for (int level = 0; level < 200; ++level) levels += "A level of Arcade\r\n 3101 \r\n";
-  putBytes("\\plain", levels);
-  scrambleFile("\\plain", pathOf(levelsFile));
-  loadAll();
-  const Texts before = files();
-  finishesWithin(1 << 20, changeAndSaveAll);
-  const Texts after = files();
-  int old[3] = {};
-  int kills = 0;
-  for (bool finished = false; !finished; ++kills) {
-    put(before);
-    finished = finishesWithin(kills, changeAndSaveAll);
-    const Texts left = files();
-    for (std::size_t i = 0; i < left.size(); ++i) {
-      ASSERT_TRUE(left[i] == before[i] || left[i] == after[i]) << paths[i] << kills;
-      if (left[i] == before[i]) ++old[i];
-    }
-    loadAll();
-    EXPECT_EQ(files(), left) << "not taken for damaged";
-    if (finished || kills % 8 != 0) continue;
-    EXPECT_TRUE(finishesWithin(1 << 20, changeAndSaveAll) && !exists(tempPath));
+  const Texts old = files();
+  finishesWithin(1 << 20, startAndSaveAll);
+  const Texts all = files();
+  const std::set<Texts> stages = {old, {all[0], old[1], old[2]}, {all[0], all[1], old[2]}, all};
+  std::set<Texts> seen;
+  for (i32 kills = 0, finished = 0; finished == 0; ++kills) {
+    for (std::size_t i = 0; i < paths.size(); ++i) putBytes(paths[i], old[i]);
+    finished = finishesWithin(kills, startAndSaveAll) ? 1 : 0;
+    ASSERT_EQ(stages.count(*seen.insert(files()).first), 1U) << kills;
+    if (kills % 16 != 0) continue;
+    EXPECT_TRUE(finishesWithin(1 << 20, startAndSaveAll) && !exists(tempPath)) << kills;
     for (const std::string& path : paths) EXPECT_TRUE(exists(path) && !exists(path + ".new"));
   }
-  EXPECT_TRUE(0 < old[0] && old[0] < old[1] && old[1] < old[2] && old[2] < kills - 1);
-  EXPECT_GT(kills, 200);
+  EXPECT_EQ(seen, stages);
 }
 
 }  // namespace

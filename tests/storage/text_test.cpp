@@ -15,10 +15,8 @@ TEST(Text, GoesToUtf8AndBack) {
   EXPECT_EQ(toUtf8("A~\n \xA0\xBF\xC0\xE9\xFF"), "A~\n \u00A0¿Àéÿ");
   EXPECT_EQ(fromUtf8(toUtf8(all)), all);
   // What the set doesn't have becomes a question mark.
-  EXPECT_EQ(fromUtf8("aĀ漢😀z"), "a???z");
-  EXPECT_EQ(fromUtf8("\u0080"), "?") << "a code that the set gives to another character";
-  EXPECT_EQ(fromUtf8("a\x80\xFFz"), "a??z") << "bytes that start nothing";
-  EXPECT_EQ(fromUtf8("\xC3(\xE2\x82z\xE2\x82"), "?(??z??") << "cut off by a letter and at the end";
+  EXPECT_EQ(fromUtf8("aĀ漢😀\u0080z"), "a????z");
+  EXPECT_EQ(fromUtf8("\x80\xFFz\xC3(\xE2\x82z\xE2\x82"), "??z?(??z??") << "nothing whole";
   EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80z\xC1\xAF"), "?z?") << "too large, and too long a form";
 }
 
@@ -41,7 +39,6 @@ TEST(Text, NumbersAreReadFromTheLeadingPartInAnyLocale) {
     EXPECT_EQ(isNumber(text), whole) << '"' << text << '"';
   }
   std::locale::global(before);
-  EXPECT_EQ(signedNumber(0) + signedNumber(-1234567), " 0-1234567");
 }
 
 }  // namespace
