@@ -179,10 +179,3 @@ TEST_F(TempFolder, IsHeldByOneRunAtATimeWhateverTheLockFileHolds) {
 
 }  // namespace
 }  // namespace glonks
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  testing::InitGoogleTest(&argc, argv);
-  glonks::startToolkit();
-  return RUN_ALL_TESTS();
-}
