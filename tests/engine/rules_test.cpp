@@ -10,6 +10,7 @@
 #include "rules/items.h"
 #include "rules/removal.h"
 #include "rules/rowshift.h"
+#include "rules/slamming.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
@@ -96,6 +97,12 @@ TEST_F(RulesTest, PiecesComeByTheirDraws) { playTable("generation", acts()); }
 TEST_F(RulesTest, RowsShiftAndWhatHangsIsLiftedLowestFirst) { playTable("rowshift", acts()); }
 
 TEST_F(RulesTest, ScanLetsPiecesActAndPairsSlammers) { playTable("scan", acts()); }
+
+TEST_F(RulesTest, SlammerThatHasGoneSinceTheScanStillClosesItsRun) {
+  lay(".1S");
+  checkSlams({{0, 0}, {2, 0}}, 1);
+  EXPECT_EQ(board(), "");
+}
 
 TEST_F(RulesTest, RemovalsPayCountAndSpread) {
   playTable("removal", acts());
