@@ -73,6 +73,7 @@ class RulesTest : public EngineTest {
            entryOf(range[0][0]).spawnHigh = number(range[2]);
          }},
         {"free", [](const Words& place) { cellOf(place).occupied = False; }},
+        {"slammer", [](const Words& place) { cellOf(place).isSlammer = True; }},
         {"expiry", [](const Words& place) { cellOf(place).expiry = std::stoi(place[2]); }},
         {"direction", [](const Words& place) { cellOf(place).direction = number(place[2]); }},
         {"cell",
