@@ -190,7 +190,7 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_TRUE(window->isVisible() && !fake::windowOpen && frame[game == 2].visible == True);
     loadStore();
     EXPECT_EQ(bank, game) << "credits are stored";
-    EXPECT_GE(fake::songsOpened.size(), songNames.size() * game) << "each is tried again";
+    EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "30000   \tZo\xeb");
 }
