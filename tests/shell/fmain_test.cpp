@@ -62,7 +62,7 @@ class MainWindowTest : public TempFolder {
 TEST_F(MainWindowTest, StartShowsATipOrAGreetingAndTheTitleWithEverythingRead) {
   EXPECT_TRUE(scores_freestyle.items.size() == 10 && scores_freestyle.visible == True);
   EXPECT_TRUE(songs.items.size() == 4 && std::is_sorted(songs.items.begin(), songs.items.end()));
-  EXPECT_TRUE(bank == 5 && HScroll2.value == 70 && allBands.items.size() == 4);
+  EXPECT_TRUE(bank == 5 && allBands.items.size() == 4 && textOf(scoreModes) == "Freestyle");
   // The title covers the first page, which the keys can't reach either.
   EXPECT_TRUE(frame[0].visible == True && frame[7].visible == True);
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
@@ -190,7 +190,7 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_TRUE(window->isVisible() && !fake::windowOpen && frame[game == 2].visible == True);
     loadStore();
     EXPECT_EQ(bank, game) << "credits are stored";
-    EXPECT_GE(fake::songsOpened.size(), songNames.size() * game) << "each is tried again";
+    EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "30000   \tZo\xeb");
 }
