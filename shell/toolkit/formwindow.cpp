@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
+#include <algorithm>
 #include <utility>
 
 #include "shell/toolkit/entry.h"
@@ -53,7 +54,11 @@ void FormWindow::refresh() {
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
   const QWidget* inFocus = focusWidget();
   for (const auto& mirror : mirrors_) mirror->refresh();
-  if (inFocus == nullptr || !inFocus->isVisible()) focusFirst();
+  // The menu bar holds the focus after Escape in a menu, until the focus is set elsewhere.
+  const bool onStop = std::any_of(stops_.begin(), stops_.end(), [inFocus](const TabStop& stop) {
+    return stop.widget == inFocus && inFocus->isVisible();
+  });
+  if (!onStop) focusFirst();
 }
 
 // Qt would choose a different widget, because it treats the stops as a ring.

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QMenuBar>
 #include <QTextBrowser>
 
 #include "game/model/model.h"
@@ -196,6 +197,7 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
 }
 
 TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {
+  window->findChild<QMenuBar*>()->setFocus();  // where Escape in a menu leaves it
   choose("&Backgrounds");
   setValue(HScroll1, 3);
   EXPECT_EQ(themePic.picture, "\\themes\\Cells\\plate_03.bmp");
