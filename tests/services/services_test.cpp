@@ -170,7 +170,14 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   handle = open();
   letWindowMessagesThrough();
   EXPECT_TRUE(told == 0 && !screenLost()) << "a window starts afresh";
-  EXPECT_EQ(send(SDL_KEYDOWN, SDL_SCANCODE_DOWN), 208);
+  const std::pair<int, i32> keys[] = {
+      {SDL_SCANCODE_ESCAPE, 1}, {SDL_SCANCODE_1, 2},       {SDL_SCANCODE_2, 3},
+      {SDL_SCANCODE_3, 4},      {SDL_SCANCODE_4, 5},       {SDL_SCANCODE_N, 49},
+      {SDL_SCANCODE_UP, 200},   {SDL_SCANCODE_RIGHT, 205}, {SDL_SCANCODE_DOWN, 208}};
+  i32 down = 0;
+  for (const auto& [scanCode, code] : keys) {
+    EXPECT_EQ(send(SDL_KEYDOWN, scanCode), down += code);
+  }
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 

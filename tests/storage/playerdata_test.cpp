@@ -127,6 +127,7 @@ const std::tuple<const PlayersFile&, std::string, std::size_t, const char*, std:
         {scoresFile, table, 3, "x", withoutD, "9 of its 10 scores"},
         {scoresFile, table, 3, "1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.", withoutD,
          "9 of its 10 scores"},
+        {scoresFile, table + "50,K\n", 10, "x", table, "10 of its 10 scores"},
         {storeFile, "77\n7\n2", 0, nullptr, "77\n7\n2\n1\n1\n1\n1\n0\n0\n0\n0\nCells\n70\n",
          "3 of its 13 values"},
         {storeFile, "77\n" + goods, 0, "7a.1.", "5\n" + goods, "12 of its 13 values"},
@@ -168,17 +169,21 @@ TEST_F(PlayerData, OfADamagedFileWhatCanBeReadIsKeptAndTheRestPutAside) {
   }
 }
 
-// What hinders reading now, as a loop of links does, may be gone the next time.
+// What hinders opening or reading now may be gone the next time: a loop of links, and a file whose
+// first byte gives an input/output error.
 TEST_F(PlayerData, AFileThatCantBeReadNowIsLeftAlone) {
   for (const PlayersFile& file : {scoresFile, storeFile, levelsFile}) {
-    setText(tMode, "Arcade");
     const auto place = nativePath(pathOf(file));
-    std::filesystem::remove(place);
-    std::filesystem::create_symlink(place, place);
-    EXPECT_PRED2(holds, errorOf([&] { load(file); }), pathOf(file) + "\" can't be opened");
-    setText(tMode, "Arcade");
-    EXPECT_EQ(tLevels.items.at(0), "First Steps") << "those known from before";
-    EXPECT_TRUE(is_symlink(place) && !exists(pathOf(file) + ".damaged"));
+    for (const auto& [target, error] :
+         {std::pair{place, "can't be opened"}, {"/proc/self/mem", "can't be read"}}) {
+      setText(tMode, "Arcade");
+      std::filesystem::remove(place);
+      std::filesystem::create_symlink(target, place);
+      EXPECT_PRED2(holds, errorOf([&] { load(file); }), pathOf(file) + "\" " + error);
+      setText(tMode, "Arcade");
+      EXPECT_EQ(tLevels.items.at(0), "First Steps") << "those known from before";
+      EXPECT_TRUE(is_symlink(place) && !exists(pathOf(file) + ".damaged"));
+    }
   }
 }
 
@@ -225,7 +230,9 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   saveSilently();
   EXPECT_EQ(plainOf(storeFile).substr(0, 3), "79\n");
   block(false);
-  saveSilently();
+  highScores[0].points = 40000;
+  fMain_Form_Unload();
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "40000,Newcomer\n");
 }
 
 }  // namespace
