@@ -8,7 +8,8 @@
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/ftip.h"
-#include "shell/saving.h"
+#include "shell/playbutton.h"
+#include "shell/toolkit/endsignals.h"
 #include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
@@ -34,11 +35,18 @@ bool holdProgramFolder() {
   return false;
 }
 
+// Logged in the place of the last lines of a run that ends by itself.
+void endByTheSystem() {
+  logStep("ended by the system");
+  storeAtOnce();
+  closeLog();
+}
+
 // The end of a run that failed: one line in the log, what the player has earned stored, the screen
 // given back, one message.
 void endFailedRun(const std::string& logged, const std::string& shown) {
   logStep("error " + logged);
-  saveSilently();
+  storeAtOnce();
   if (fConsole.hWnd != 0) {
     gameOver = True;
     destroy();
@@ -54,6 +62,7 @@ int main() {
     startToolkit();
     setProgramFolder(folderOfProgram());
     if (!holdProgramFolder()) return 1;
+    setEndHandler(endByTheSystem);
     fTip_Form_Load();
     showForm(fTip);
     runEvents();

@@ -40,17 +40,10 @@ void setBack(i32 tick, i32 keyTickBefore) {
   const i32 passed = gameTick() - tick;
   tickBase += static_cast<u32>(passed);
   // The key event that ended the pause has set lastKeyTick by the time that has been taken back.
-  if (lastKeyTick != keyTickBefore) lastKeyTick -= passed;
+  if (lastKeyTick != keyTickBefore) lastKeyTick = tick;
 }
 
-// The messages of one call may hold the P that ends this pause and another one that begins the
-// next: that pause then runs and ends within this one.
-void pause() {
-  ShowCursor(1);
-  paused = True;
-  const i32 tick = gameTick();
-  const i32 keyTickBefore = lastKeyTick;
-  BASS_Pause();
+void waitInPause() {
   while (paused == True) {
     letMessagesThrough();
     if (dd->TestCooperativeLevel() == 0) {
@@ -58,6 +51,23 @@ void pause() {
     } else {
       waitForScreen();
     }
+  }
+}
+
+// The messages of one call may hold the P that ends this pause and another one that begins the
+// next: that pause then runs and ends within this one. A failure ends the pause.
+void pause() {
+  ShowCursor(1);
+  paused = True;
+  const i32 tick = gameTick();
+  const i32 keyTickBefore = lastKeyTick;
+  BASS_Pause();
+  try {
+    waitInPause();
+  } catch (...) {
+    if (paused == True) resume();
+    setBack(tick, keyTickBefore);
+    throw;
   }
   setBack(tick, keyTickBefore);
 }

@@ -14,6 +14,7 @@
 #include "shell/musicpage.h"
 #include "shell/newgamepage.h"
 #include "shell/pages.h"
+#include "shell/saving.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
@@ -70,7 +71,10 @@ void fMain_Form_Unload() {
   endProgram();
 }
 
-void mExit_Click() { endProgram(); }
+void mExit_Click() {
+  saveAll();
+  endProgram();
+}
 
 void mAbout_Click() { showForm(fSplash, fSplash_Form_Load); }
 

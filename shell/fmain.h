@@ -15,7 +15,8 @@ void boot();
 // program.
 void fMain_Form_Unload();
 
-void mExit_Click();  // ends the program at once, storing nothing
+// Ends the program at once. Only what an earlier save couldn't store is tried again.
+void mExit_Click();
 
 // The windows beside this one, which stays in use; and the manual, a program of its own.
 void mAbout_Click();

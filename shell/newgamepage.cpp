@@ -48,13 +48,20 @@ void tMode_Click() {
 }
 
 void awardLevel() {
-  const auto& open = tLevels.items;
-  if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return;
+  if (!keepLevel()) return;
+  saveSilently();
   messageBox("Congratulations!  You have been awarded a new level for Arcade mode!");
+  if (isOwed(levelsFile)) save(levelsFile);
+  tellOfNewFiles();
+}
+
+bool keepLevel() {
+  const auto& open = tLevels.items;
+  if (std::find(open.begin(), open.end(), rewardLevelName) != open.end()) return false;
   addOpenLevel({rewardLevelName, rewardLevelFile});
   addItem(tLevels, rewardLevelName, rewardLevelFile);
-  save(levelsFile);
-  tellOfNewFiles();
+  owe(levelsFile);
+  return true;
 }
 
 }  // namespace glonks

@@ -14,8 +14,12 @@ void popModes();
 void tMode_Click();
 
 // Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
-// tells the player, and adds it to tLevels and to the file. It stays open also if it can't be
-// stored.
+// stores it, so that it lasts whatever ends the program now, and tells the player. It stays open
+// also if it can't be stored.
 void awardLevel();
+
+// Adds that level to tLevels, without a word; saves store it from now on. False if it is there
+// already.
+bool keepLevel();
 
 }  // namespace glonks

@@ -1,6 +1,7 @@
 #include "shell/playbutton.h"
 
 #include <string>
+#include <utility>
 
 #include "base/errors.h"
 #include "base/text.h"
@@ -105,6 +106,14 @@ void main_BtnRun_Click() {
   if (succeeds(loadChosenLevel)) playGame();
   saveStore();
   showForm(fMain);
+}
+
+void storeAtOnce() {
+  if (std::exchange(inPlay, False) == True) {
+    if (gameMode.scoreTable == True) keepScore();
+    if (gameMode.hasGoals == True && levelWon == True) keepLevel();
+  }
+  saveSilently();
 }
 
 }  // namespace glonks

@@ -7,4 +7,8 @@ namespace glonks {
 // missing, and so it does for a level whose file can't be read or is damaged.
 void main_BtnRun_Click();
 
+// Stores what the player has when the run has to end, and asks nothing: in the middle of a game the
+// score as it stands, without a name, and a level that has been won.
+void storeAtOnce();
+
 }  // namespace glonks

@@ -41,15 +41,24 @@ void saveScores() { save(scoresFile); }
 void enterHighScore() {
   const i16 place = placeOfScore(score);
   if (place == highScoreCount) return;
+  keepScore();
+  saveSilently();
   const std::string name = inputBox(
       "Congratulations!  " + plainNumber(score) + " is a new high score!  Please enter your name.",
       longestStoredText);
-  insertScore(place, {name, score});
+  nameScore(place, name);
   saveScores();
   if (!isOwed(scoresFile)) succeeds(readScores);
   listScores();
   mScores_Click();
   setText(scoreModes, "Freestyle");
+}
+
+void keepScore() {
+  const i16 place = placeOfScore(score);
+  if (place == highScoreCount) return;
+  insertScore(place, score);
+  owe(scoresFile);
 }
 
 }  // namespace glonks

@@ -13,8 +13,12 @@ void loadScores();
 // Stores the table. A failure raises nothing (see shell/saving.h).
 void saveScores();
 
-// If `score` enters the table: asks for a name, stores the entry and brings up the page. The entry
-// stays in table and list also if it can't be stored.
+// If `score` enters the table: stores the entry without a name, so that it lasts whatever ends the
+// program now, asks for the name, stores that too and brings up the page. The entry stays in table
+// and list also if it can't be stored.
 void enterHighScore();
+
+// Enters `score` into the table, without a name and without a word; saves store it from now on.
+void keepScore();
 
 }  // namespace glonks

@@ -34,7 +34,7 @@ bool readWhole(const PlayersFile& file, Sift sift, Lines& lines) {
     if (error.number() == static_cast<int>(ErrorNumber::badFile)) return false;
     throw;
   }
-  return sift(lines, {}, false).lost == 0;
+  return sift(lines, {}, false).lost == 0 && !isCutShort(pathOf(file));
 }
 
 // Gives the file a second name that no other one has, or failing that a copy, so that it stands in

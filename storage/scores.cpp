@@ -68,10 +68,14 @@ i16 placeOfScore(i32 points) {
   return static_cast<i16>(place - highScores.begin());
 }
 
-void insertScore(i16 place, const HighScore& entry) {
+void insertScore(i16 place, i32 points) {
   auto* const at = highScores.begin() + place;
   std::move_backward(at, highScores.end() - 1, highScores.end());
-  *at = {storableText(entry.playerName), entry.points};
+  *at = {"", points};
+}
+
+void nameScore(i16 place, const std::string& name) {
+  highScores[static_cast<std::size_t>(place)].playerName = storableText(name);
 }
 
 }  // namespace glonks

@@ -27,7 +27,11 @@ void writeScores();
 // none.
 i16 placeOfScore(i32 points);
 
-// Enters a score at its place; the entries from there on move down, and the last one is lost.
-void insertScore(i16 place, const HighScore& entry);
+// Enters a score at its place, without a name; the entries from there on move down, and the last
+// one is lost.
+void insertScore(i16 place, i32 points);
+
+// Gives the entry in a place its name, as the file can hold it.
+void nameScore(i16 place, const std::string& name);
 
 }  // namespace glonks

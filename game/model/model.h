@@ -164,7 +164,7 @@ inline i16 selectedRow = 0;              // row under the pointer, 0 to 6; reset
 inline std::string modeName;             // set by the Play button; item keys need "Freestyle"
 inline i32 spawnInterval = 0;            // ms between two spawns; set by the level file
 inline Flag gameOver = False;            // ends the play loop at the top of its next pass
-inline Flag inPlay = False;              // a play loop is running; set by it
+inline Flag inPlay = False;              // a play loop is running, or has raised; set by it
 inline Flag paused = False;              // a pause is in force
 inline i32 lastKeyTick = 0;              // game tick of the last key handled
 inline i32 nextPointsTick = 0;           // game tick at which the next time points fall due

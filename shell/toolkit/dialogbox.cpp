@@ -1,10 +1,12 @@
 #include "shell/toolkit/dialogbox.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/clock.h"
 #include "shell/toolkit/style.h"
 
 namespace glonks {
@@ -15,6 +17,10 @@ constexpr int widestText = 380;
 constexpr int narrowestText = 190;
 constexpr int margin = 15;
 constexpr int spacing = 13;
+
+// ms; longer than a held key takes to repeat itself for the first time, usually 500 or 660. The
+// first repeat comes to this window as a press of its own.
+constexpr u32 escapeRest = 700;
 
 constexpr QChar breakHere(0x200b);  // takes no room itself
 
@@ -74,6 +80,16 @@ QLineEdit& DialogBox::addLine(int longest) {
   static_cast<QVBoxLayout*>(layout())->insertWidget(1, line);
   line->setFocus();
   return *line;
+}
+
+void DialogBox::showEvent(QShowEvent* event) {
+  shownAt_ = GetTickCount();
+  QDialog::showEvent(event);
+}
+
+void DialogBox::keyPressEvent(QKeyEvent* event) {
+  const bool early = event->key() == Qt::Key_Escape && GetTickCount() - shownAt_ < escapeRest;
+  if (!event->isAutoRepeat() && !early) QDialog::keyPressEvent(event);
 }
 
 }  // namespace glonks

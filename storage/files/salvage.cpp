@@ -1,8 +1,10 @@
 #include "storage/files/salvage.h"
 
 #include <algorithm>
+#include <fstream>
 
 #include "base/errors.h"
+#include "base/paths.h"
 #include "base/text.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -84,10 +86,18 @@ std::vector<Groups> readGroups(const std::string& path) {
       lines.push_back({damagedGroup});
     }
   }
+  if (isCutShort(path)) lines.back().push_back(damagedGroup);
   return lines;
 }
 
 }  // namespace
+
+bool isCutShort(const std::string& scrambledPath) {
+  std::ifstream file(nativePath(scrambledPath), std::ios::binary);
+  char last = '\n';
+  file.seekg(-1, std::ios::end).get(last);
+  return last != '\n';
+}
 
 std::vector<std::string> salvagedLines(const std::string& scrambledPath) {
   std::vector<Groups> lines;

@@ -133,7 +133,7 @@ void unscrambleFile(const std::string& scrambledPath, const std::string& plainPa
              [](const std::string& line) { return reverseText(unscrambleLine(line)); });
 }
 
-TempFileGuard::~TempFileGuard() {
+void TempFileGuard::remove() {
   std::error_code ignored;
   std::filesystem::remove(nativePath(tempPath), ignored);
 }
@@ -148,7 +148,7 @@ ScrambledReader::~ScrambledReader() { abandonChannel(channel_); }
 
 void ScrambledReader::close() {
   closeChannel(channel_);
-  deleteFile(tempPath);
+  temp_.remove();
 }
 
 ScrambledWriter::ScrambledWriter(const std::string& scrambledPath) : scrambledPath_(scrambledPath) {
@@ -160,7 +160,7 @@ ScrambledWriter::~ScrambledWriter() { abandonChannel(channel); }
 void ScrambledWriter::close() {
   closeChannel(channel);
   scrambleFile(tempPath, scrambledPath_);
-  deleteFile(tempPath);
+  temp_.remove();
 }
 
 }  // namespace glonks

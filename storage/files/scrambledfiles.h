@@ -66,13 +66,15 @@ std::string unscrambleLine(const std::string& scrambled);
 void scrambleFile(const std::string& plainPath, const std::string& scrambledPath);
 void unscrambleFile(const std::string& scrambledPath, const std::string& plainPath);
 
-// Deletes the temp file, if it is still there, when it goes.
+// Deletes the temp file when it goes, or before. One that can't be deleted is reported to nobody:
+// what was read or written is whole, and the next use replaces it.
 class TempFileGuard {
  public:
   TempFileGuard() = default;
-  ~TempFileGuard();
+  ~TempFileGuard() { remove(); }
   TempFileGuard(const TempFileGuard&) = delete;
   TempFileGuard& operator=(const TempFileGuard&) = delete;
+  void remove();
 };
 
 // One reading of a scrambled file: the constructor unscrambles it into the temp file and opens that

@@ -268,11 +268,4 @@ void abandonChannel(i16 channel) {
   if (closing.mode == ChannelMode::replace) fs::remove(closing.beside, ignored);
 }
 
-void deleteFile(const std::string& path) {
-  std::error_code error;
-  const bool deleted = fs::remove(nativePath(path), error);
-  if (error) fail(ErrorNumber::fileAccess, path, "can't be deleted (" + error.message() + ").");
-  if (!deleted) fail(ErrorNumber::fileNotFound, path, "can't be deleted: it isn't there.");
-}
-
 }  // namespace glonks

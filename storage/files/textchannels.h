@@ -60,9 +60,6 @@ void closeChannel(i16 channel);
 // Closes the channel, if it is open, and reports nothing; with mode `replace` the old file stays.
 void abandonChannel(i16 channel);
 
-// Deletes a file. Raises fileNotFound or fileAccess.
-void deleteFile(const std::string& path);
-
 // Abandons its channel when it goes, so that a reader or writer that fails leaves nothing open.
 class ChannelGuard {
  public:

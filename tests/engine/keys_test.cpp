@@ -66,6 +66,22 @@ TEST_F(KeysTest, AnyNumberOfPausesTakesGameTimeBackToTheStartOfTheFirst) {
     press("Up", 151);
     EXPECT_EQ((Numbers{selectedRow, lastKeyTick}), (Numbers{1, 2151}));
   }
+  // The key that comes with the P acts once, however long the pause's last picture takes.
+  renew();
+  fake::clockNow = 2000;
+  fake::messages = [] {
+    if (fake::screenIsLost) {
+      fake::clockNow += 400;
+    } else {
+      fake::pressKeys({25, 200});
+    }
+    fake::screenIsLost = !fake::screenIsLost;
+  };
+  press("P", 0);
+  EXPECT_EQ((Numbers{selectedRow, lastKeyTick, gameTick()}), (Numbers{1, 2000, 2000}));
+  // And one that fails.
+  EXPECT_THROW(pauseWith(key("P"), {[] { throw 1; }}), int);
+  EXPECT_EQ((Numbers{gameTick(), paused, fake::musicHalted}), (Numbers{3000, False, 0}));
 }
 
 TEST_F(KeysTest, CloseBoxPausesAGameInPlayAndTellsHowToEndIt) {

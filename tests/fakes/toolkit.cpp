@@ -12,14 +12,16 @@ void runEvents() {}
 void endProgram() {}
 void openBySystem(const std::string& /*address*/) {}
 bool startProgram(const std::string& /*path*/) { return true; }
-void messageBox(const std::string& text) { fake::boxes.push_back(text); }
-Flag yesNoBox(const std::string& question) {
-  fake::boxes.push_back(question);
+void messageBox(const std::string& text) {
+  fake::boxes.push_back(text);
   if (fake::asked) fake::asked();
+}
+Flag yesNoBox(const std::string& question) {
+  messageBox(question);
   return fake::yes;
 }
 std::string inputBox(const std::string& prompt, i32 /*longest*/) {
-  fake::boxes.push_back(prompt);
+  messageBox(prompt);
   return fake::typed;
 }
 

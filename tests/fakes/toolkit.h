@@ -12,7 +12,7 @@ namespace glonks::fake {
 struct Shown {
   std::vector<std::string> boxes;  // texts of all dialogs, in order
   Flag yes = False;                // what yesNoBox returns
-  std::function<void()> asked;     // runs when yesNoBox asks
+  std::function<void()> asked;     // runs at each dialog
   std::string typed;               // what inputBox returns
   // Runs at each letFormMessagesThrough, where events would be handled.
   std::function<void()> messages;

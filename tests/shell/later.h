@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "tests/fakes/clock.h"
+
 // What a player does to windows and dialogs that are shown.
 
 namespace glonks {
@@ -35,8 +37,8 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
 
 inline std::string lastMessage;  // the text of the last dialog that was answered
 
-// Answers the next dialog with a key, after typing a text where there is a line for one. Gives up
-// if none comes for as many event loops as `patience` says.
+// Answers the next dialog with a key, a second after it came, and after typing a text where there
+// is a line for one. Gives up if none comes for as many event loops as `patience` says.
 inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20) {
   later([=] {
     QWidget* dialog = QApplication::activeModalWidget();
@@ -51,6 +53,7 @@ inline void answerNext(Qt::Key key, const QString& typed = {}, int patience = 20
     lastMessage = label->text().remove(QChar(0x200b)).toStdString();
     auto* line = dialog->findChild<QLineEdit*>();
     if (line != nullptr) line->insert(typed);
+    fake::clockNow += 1000;
     QTest::keyClick(line != nullptr ? line : dialog, key);
   });
 }

@@ -8,9 +8,12 @@
 #include <QListWidget>
 #include <QProcess>
 #include <QScrollBar>
+#include <csignal>
+#include <cstdio>
 
 #include "shell/menucontrols.h"
 #include "shell/menulayout.h"
+#include "shell/toolkit/endsignals.h"
 #include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/style.h"
 #include "shell/toolkit/widgets.h"
@@ -124,6 +127,28 @@ TEST_F(Toolkit, DialogsAreAnsweredByKeysWithOrWithoutAForm) {
     }
     hideForm(sheet->form);
   }
+  later([] {  // as of the Escape that has ended a game and is still held
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    fake::clockNow += 1000;
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
+    QApplication::sendEvent(QApplication::activeModalWidget(), &repeat);
+    answerNext(Qt::Key_Return);
+  });
+  EXPECT_EQ(yesNoBox("Still there?"), True);
+}
+
+TEST_F(Toolkit, SignalsThatEndTheProgramLetItStoreFirst) {
+  const auto end = [] {
+    std::signal(SIGHUP, SIG_IGN);  // as for a program started to outlive its terminal
+    setEndHandler([] { std::fputs("stored", stderr); });
+    std::raise(SIGHUP);
+    letFormMessagesThrough();
+    std::fputs("still here, then ", stderr);
+    std::raise(SIGTERM);
+    letFormMessagesThrough();
+  };
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  EXPECT_EXIT(end(), testing::KilledBySignal(SIGTERM), "still here, then stored$");
 }
 
 TEST(Store, NumbersAreShownWhole) {

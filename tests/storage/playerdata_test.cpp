@@ -1,10 +1,12 @@
 #include <tuple>
 
 #include "game/model/model.h"
+#include "game/modes.h"
 #include "shell/fmain.h"
 #include "shell/menucontrols.h"
 #include "shell/menulayout.h"
 #include "shell/newgamepage.h"
+#include "shell/playbutton.h"
 #include "shell/saving.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
@@ -61,6 +63,7 @@ TEST_F(PlayerData, ScoresEnterTheirPlaceWithAStorableName) {
     loadScores();
     fake::typed = typed;
     score = points;
+    fake::asked = [] { loadScores(); };  // the entry is there before its name
     enterHighScore();
     std::string expected = table;
     expected.insert(at, line).resize(table.size() - 6 + line.size());
@@ -105,20 +108,24 @@ TEST_F(PlayerData, AwardedLevelIsAddedOnceToFileAndList) {
   setText(tMode, "Arcade");
   rewardLevelName = "Three";
   rewardLevelFile = 3;
+  const std::string both = "One, \"two\"\n 17 \nThree\n 3 \n";
+  fake::asked = [&] { EXPECT_EQ(plainOf(levelsFile), both) << "before the player is told"; };
   for (i32 win = 0; win < 2; ++win) awardLevel();
   EXPECT_EQ(fake::boxes.size(), 1U);
-  EXPECT_EQ(plainOf(levelsFile), "One, \"two\"\n 17 \nThree\n 3 \n");
+  EXPECT_EQ(plainOf(levelsFile), both);
   EXPECT_EQ(tLevels.items, (std::vector<std::string>{"One, \"two\"", "Three"}));
   EXPECT_EQ(tLevels.itemData, (std::vector<i32>{17, 3}));
 }
 
 const std::string withoutD =
     "1000,A\n900,B\n800,C\n600,E\n500,F\n500,Sleepy Moss\n400,G\n300,H\n200,I\n100,J\n";
+const std::string withoutJ =
+    "1000,A\n900,B\n800,C\n700,D\n600,E\n500,F\n500,Sleepy Moss\n400,G\n300,H\n200,I\n";
 const std::string goods = "7\n2\n3\n4\n5\n6\n0\n1\n0\n8\nEmbers\n40\n";  // after the bank
 
 // A player's file, its plain lines as they are found ("missing": there is none, "first": what the
 // game begins with), a scrambled line of it, counted from 0, and what that is exchanged for
-// (nullptr: nothing), the plain lines left, and what the message says.
+// (nullptr: nothing; "cut": the file ends in it), the plain lines left, and what the message says.
 const std::tuple<const PlayersFile&, std::string, std::size_t, const char*, std::string,
                  const char*>
     damages[] = {
@@ -135,6 +142,8 @@ const std::tuple<const PlayersFile&, std::string, std::size_t, const char*, std:
         {levelsFile, "One\n1\nTwo Rocks\n2\nThree\n3\n", 1, "x", "Two Rocks\n2\nThree\n3\n",
          "2 of its 3 levels"},
         {levelsFile, "One\n1\nTwo\n", 0, nullptr, "One\n1\n", "1 of its 2 levels"},
+        {levelsFile, "One\n1\nTwo\n3102\n", 3, "cut", "One\n1\n", "1 of its 2 levels"},
+        {scoresFile, table, 9, "cut", withoutJ, "9 of its 10 scores"},
 };
 
 TEST_F(PlayerData, OfADamagedFileWhatCanBeReadIsKeptAndTheRestPutAside) {
@@ -148,7 +157,12 @@ TEST_F(PlayerData, OfADamagedFileWhatCanBeReadIsKeptAndTheRestPutAside) {
     if (scrambled != nullptr) {
       std::size_t at = 0;
       for (std::size_t i = 0; i < line; ++i) at = before.find("\r\n", at) + 2;
-      before.replace(at, before.find("\r\n", at) - at, scrambled);
+      const std::size_t end = before.find("\r\n", at);
+      if (scrambled == std::string("cut")) {
+        before.resize(before.rfind('.', end - 2) + 1);
+      } else {
+        before.replace(at, end - at, scrambled);
+      }
       putBytes(path, before);
     }
     if (plain == "missing") std::filesystem::remove(nativePath(path));
@@ -230,9 +244,27 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   saveSilently();
   EXPECT_EQ(plainOf(storeFile).substr(0, 3), "79\n");
   block(false);
+  mExit_Click();
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "30000,Newcomer\n");
   highScores[0].points = 40000;
   fMain_Form_Unload();
   EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "40000,Newcomer\n");
+}
+
+TEST_F(PlayerData, OfAGameThatCantGoOnTheScoreAndAWonLevelAreStored) {
+  score = 30000;
+  levelWon = True;
+  rewardLevelName = "Reward";
+  rewardLevelFile = 77;
+  for (const char* mode : {"Freestyle", "Arcade"}) {
+    loadScores();
+    setText(tMode, mode);
+    gameMode = modeTitled(mode);
+    inPlay = True;
+    for (i32 time = 0; time < 2; ++time) storeAtOnce();
+    EXPECT_EQ(plainOf(scoresFile).substr(0, 14), "30000,\n25000,Q") << mode;
+  }
+  EXPECT_EQ(plainOf(levelsFile), "First Steps\n3101\nReward\n 77 \n");
 }
 
 }  // namespace
