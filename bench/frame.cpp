@@ -184,6 +184,7 @@ void setEffects(i32 number) {
 
 void composeOurs(benchmark::State& state) {
   for (auto _ : state) {
+    clearBack();
     layPlate();
     layFrame();
     drawField();
@@ -197,6 +198,7 @@ void composeOursEffects(benchmark::State& state) {
   i32 number = 0;
   for (auto _ : state) {
     setEffects(number++);
+    clearBack();
     layPlate();
     drawFrogs();
     layFrame();

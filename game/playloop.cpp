@@ -40,6 +40,7 @@ void runFrame(const LoopMode& mode, i32& nextFrame) {
   runAll(mode.texts, mode.run);
   mode.run([] { primarySurface->Flip(nullptr, flipWait); });
   nextFrame = gameTickIn(framePeriod);
+  mode.run(clearBack);
   mode.run(layPlate);
   runAll(mode.behindFrame, mode.run);
   mode.run(layFrame);

@@ -37,10 +37,9 @@ void drawPointer() {
                   pointerSurface, pointerSource, bltKeyed);
 }
 
-void layPlate() {
-  backBuffer->BltColorFill(whole, RGB(0, 0, 0));
-  backBuffer->Blt(plateTarget, plateSurface, plateSource, bltOpaque);
-}
+void clearBack() { backBuffer->BltColorFill(whole, RGB(0, 0, 0)); }
+
+void layPlate() { backBuffer->Blt(plateTarget, plateSurface, plateSource, bltOpaque); }
 
 void layFrame() { backBuffer->Blt(whole, frameSurface, whole, bltKeyed); }
 

@@ -15,7 +15,8 @@ void drawField();
 // The pointer at selectedRow.
 void drawPointer();
 
-// Black, with the plate over it: the first half of the next frame's background.
+// Black, and the plate over it: the first half of the next frame's background.
+void clearBack();
 void layPlate();
 
 // The frame picture, over all but its white parts: the second half.

@@ -21,7 +21,7 @@ void fConsole_Show(void (*keyDown)(), void (*closeAsked)()) {
 }
 
 void fConsole_Form_Unload(i16& cancel) {
-  if (gameOver == False) cancel = 1;
+  if (gameOver == False || paused == True) cancel = 1;  // a pause ends by its key alone
 }
 
 void fConsole_Unload() {

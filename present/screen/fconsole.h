@@ -17,7 +17,7 @@ inline ConsoleForm fConsole;
 // close box is clicked and it can't be closed.
 void fConsole_Show(void (*keyDown)(), void (*closeAsked)());
 
-// Sets `cancel` to 1 while a game runs: the form can't be closed then.
+// Sets `cancel` to 1 while a game runs or is paused: the form can't be closed then.
 void fConsole_Form_Unload(i16& cancel);
 
 // Closes the form, unless its Form_Unload cancels that.

@@ -166,9 +166,12 @@ void startFromHere() {
 
 constexpr i32 never = 1000000000;
 
+constexpr i16 negativeImage = 19;
+
 std::string fallingText(const Piece& piece) {
   std::string all = letterOf(piece) + std::to_string(piece.column);
   if (piece.direction != 0) all += piece.direction == 1 ? "<" : ">";
+  if (piece.imageIndex == negativeImage) all += "#";
   if (piece.isCalculator == True) all += "=" + std::to_string(piece.value);
   const bool runs = piece.expiry > 0 && piece.expiry != never;
   if (runs) all += "@" + std::to_string(piece.expiry - gameTick());

@@ -77,8 +77,9 @@ void note(const std::string& remark);
 // All that has happened since `lay` and the settings, in parts with "; " between them, those left
 // out that tell nothing:
 //   S1.1S                    the board, if it has changed; "-" for an empty one
-//   falls G3@55000 12:435,0,4  letter and column of what falls; a timer's length or a Calculator's
-//                            value; y, velocity and bounces of what hasn't just been spawned
+//   falls G3@55000 12:435,0,4  letter and column of what falls; "#" for the picture of a negative
+//                            Calculator, its value, a timer's length; y, velocity and bounces of
+//                            what hasn't just been spawned
 //   arms C12000              timers at rest that have been set
 //   pops 10 impacts 1 zaps hv hears slam01*2 says VICTORY!
 //   score 5000               each variable of the game that has another value

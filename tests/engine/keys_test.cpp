@@ -79,6 +79,7 @@ TEST_F(KeysTest, AnyNumberOfPausesTakesGameTimeBackToTheStartOfTheFirst) {
   };
   press("P", 0);
   EXPECT_EQ((Numbers{selectedRow, lastKeyTick, gameTick()}), (Numbers{1, 2000, 2000}));
+  EXPECT_EQ(fake::windowStates, (Numbers{2, 0}));
   // And one that fails.
   EXPECT_THROW(pauseWith(key("P"), {[] { throw 1; }}), int);
   EXPECT_EQ((Numbers{gameTick(), paused, fake::musicHalted}), (Numbers{3000, False, 0}));
@@ -103,7 +104,10 @@ TEST_F(KeysTest, ScreenInputAndMusicAreTakenAndGivenBack) {
     initDX();
     EXPECT_EQ((Numbers{fake::cursorShown, fake::musicReady}), (Numbers{0, 1}));
     fConsole_Unload();
-    EXPECT_TRUE(fake::windowOpen) << "can't be closed in a game";
+    gameOver = paused = True;
+    fConsole_Unload();
+    paused = False;
+    EXPECT_TRUE(fake::windowOpen) << "can't be closed in a game or in a pause after its end";
     for (i32 time = 0; time < 2; ++time) {
       gameOver = True;
       destroy();

@@ -44,6 +44,9 @@ TEST_F(LoopTest, PiecesFramesAndTimePointsAreDueByTheLastOfTheirKind) {
   Numbers arrivals, frames, payments;
   i32 pieces = 0, shown = 0, paid = 0;
   spawnInterval = 9000;
+  fake::onPicture = [](const std::string& name) {
+    if (name == "flip" || name == "frame") fake::clockNow += 5;
+  };
   run(play, 1, 25000, [&](i32 now) {
     if (fallingPiecesUpper >= pieces) arrivals.push_back(now);
     if (fake::picturesShown > shown && now < 100) frames.push_back(now);
@@ -53,8 +56,8 @@ TEST_F(LoopTest, PiecesFramesAndTimePointsAreDueByTheLastOfTheirKind) {
     paid = score;
     if (now == 10005) fake::clockNow += 2000;  // what is late isn't made up for
   });
-  EXPECT_EQ(arrivals, (Numbers{501, 9502, 18503}));
-  EXPECT_EQ(frames, (Numbers{1, 27, 53, 79}));
+  EXPECT_EQ(arrivals, (Numbers{508, 9509, 18510}));
+  EXPECT_EQ(frames, (Numbers{11, 42, 73}));
   EXPECT_EQ(payments, (Numbers{10001, 20002}));
   EXPECT_EQ(score, 6);
 }
@@ -64,9 +67,13 @@ TEST_F(LoopTest, OneFreestyleSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenColle
   for (const auto& [draw, collected, notes] : cases) {
     newGame();
     notesCollected = collected;
-    fake::draws = {fake::drawOf(draw, 2000)};
+    fake::draws = {fake::drawOf(draw, 2000), fake::drawOf(600, 1000), 0.45};
+    if (notes == 1) fake::draws.erase(fake::draws.begin() + 1);
+    const i32 seed = fake::nextSeed;
     run(play, 1, 510, [](i32) {});
-    EXPECT_EQ(fallingPieces.back().name == "Music", notes == 1) << draw;
+    EXPECT_EQ(fallingPieces.back().name, notes == 1 ? "Music" : "Slammer") << draw;
+    EXPECT_EQ(fallingPieces.back().column, 4) << draw;
+    EXPECT_EQ(fake::nextSeed - seed, 1 - notes) << "a note seeds nothing";
   }
 }
 

@@ -82,6 +82,9 @@ class ReplayTest : public EngineTest {
     itemStock.fill(9);
     fake::useGenerator();
     choose(mode, script.name);
+    fake::asked = [this] {
+      trace_ << (fake::windowOpen ? "over the game: " : "") << fake::boxes.back() << "\n";
+    };
     const bool first = trace_.tellp() == 0;
     trace_ << "LEVEL " << script.name << "\n";
     i32 start = -1, nextKey = 0, nextNote = 0;

@@ -1,4 +1,5 @@
 #include "game/modes.h"
+#include "game/playloop.h"
 #include "present/effectdrawing.h"
 #include "present/effects/applause.h"
 #include "present/effects/effects.h"
@@ -33,6 +34,7 @@ class RulesTest : public EngineTest {
   static Acts acts() {
     return {
         {"step", [](const Words&) { movePieces(), compactFalling(); }},
+        {"rules", [](const Words&) { stepRules(runPlainly); }},
         {"scan", [](const Words&) { scanPieces(); }},
         {"spawn", [](const Words&) { spawnPiece(); }},
         {"music", [](const Words&) { dropNamed("Music"); }},

@@ -87,6 +87,7 @@ Surface DirectDrawSurface7::GetAttachedSurface(i32 caps) {
 }
 void DirectDrawSurface7::attachBackBuffer(Surface backBuffer) { backBuffer_ = backBuffer; }
 void DirectDrawSurface7::Flip(const Surface& overrideSurface, i32 flags) {
+  fake::onPicture("flip");
   ++fake::picturesShown;
   note(backBuffer_.get(), overrideSurface || flags != flipWait ? "flip?" : "flip");
 }

@@ -15,7 +15,8 @@ namespace glonks::fake {
 // "fill 0 whole", "flip".
 inline std::vector<std::string> drawn;
 
-// Runs with a picture's name before it is loaded or drawn, and may raise.
+// Runs with a picture's name before it is loaded or drawn, and with "flip" before a Flip; may
+// raise.
 inline std::function<void(const std::string& name)> onPicture = [](const std::string&) {};
 
 // The name of a picture's file without folder and ending, empty for none.

@@ -16,7 +16,9 @@ i32 openWindow(const std::string&, const WindowEvents& events) {
   return 1;
 }
 void closeWindow(i32) { fake::windowOpen = false; }
-void setWindowState(i32, WindowState) {}
+void setWindowState(i32, WindowState state) {
+  fake::windowStates.push_back(static_cast<i32>(state));
+}
 void setWindowTitle(i32, const std::string& title) { fake::windowTitle = title; }
 void letWindowMessagesThrough() {
   if (fake::windowMessages) fake::windowMessages();

@@ -17,6 +17,7 @@ struct Seen {
   i32 picturesShown = 0;
   bool windowOpen = false;
   WindowEvents windowEvents;
+  std::vector<i32> windowStates;         // as set, in order
   std::string windowTitle;               // as last set
   i32 cursorShown = 1;                   // the last argument of ShowCursor
   std::function<void()> windowMessages;  // runs at each letWindowMessagesThrough
@@ -26,7 +27,7 @@ inline void resetWindow() { seen = {}; }
 
 // The record's fields by their own names, in its order.
 [[maybe_unused]] static auto& [keys, screenIsLost, picturesShown, windowOpen, windowEvents,
-                               windowTitle, cursorShown, windowMessages] = seen;
+                               windowStates, windowTitle, cursorShown, windowMessages] = seen;
 
 // The keys that are down, and a key event for them.
 void pressKeys(const std::vector<i32>& scanCodes);

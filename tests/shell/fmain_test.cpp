@@ -11,6 +11,8 @@
 #include "shell/fpieces.h"
 #include "shell/ftip.h"
 #include "shell/menucontrols.h"
+#include "shell/playbutton.h"
+#include "shell/scorespage.h"
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
@@ -194,6 +196,19 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "30000   \tZo\xeb");
+  choose("&New");
+  fake::windowMessages = [] {
+    score = 40000;
+    bank = 3;
+    throw std::length_error("no room");
+  };
+  EXPECT_THROW(press("Play"), std::length_error);
+  storeAtOnce();
+  loadStore();
+  loadScores();
+  EXPECT_EQ(bank, 3);
+  EXPECT_PRED2(holds, scores_freestyle.items[0], "40000   \t") << "of a run that ends in a game";
+  fake::resetWindow();
 }
 
 TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {

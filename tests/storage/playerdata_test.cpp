@@ -244,8 +244,10 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   saveSilently();
   EXPECT_EQ(plainOf(storeFile).substr(0, 3), "79\n");
   block(false);
+  highScores[0].points = 35000;
+  owe(scoresFile);
   mExit_Click();
-  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "30000,Newcomer\n");
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "35000,Newcomer\n");
   highScores[0].points = 40000;
   fMain_Form_Unload();
   EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "40000,Newcomer\n");
