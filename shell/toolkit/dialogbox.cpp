@@ -18,9 +18,11 @@ constexpr int narrowestText = 190;
 constexpr int margin = 15;
 constexpr int spacing = 13;
 
-// ms; longer than a held key takes to repeat itself for the first time, usually 500 or 660. The
-// first repeat comes to this window as a press of its own.
-constexpr u32 escapeRest = 700;
+// ms in which an Escape may come from a key that is held since before: after the box came, longer
+// than a key takes to repeat itself for the first time (usually 500 or 660); after an Escape,
+// longer than from one repeat to the next. Qt doesn't mark all repeats as such.
+constexpr u32 restAtFirst = 700;
+constexpr u32 restBetween = 200;
 
 constexpr QChar breakHere(0x200b);  // takes no room itself
 
@@ -83,13 +85,17 @@ QLineEdit& DialogBox::addLine(int longest) {
 }
 
 void DialogBox::showEvent(QShowEvent* event) {
-  shownAt_ = GetTickCount();
+  escapeFrom_ = GetTickCount() + restAtFirst;
   QDialog::showEvent(event);
 }
 
 void DialogBox::keyPressEvent(QKeyEvent* event) {
-  const bool early = event->key() == Qt::Key_Escape && GetTickCount() - shownAt_ < escapeRest;
-  if (!event->isAutoRepeat() && !early) QDialog::keyPressEvent(event);
+  bool held = event->isAutoRepeat();
+  if (event->key() == Qt::Key_Escape) {
+    held |= GetTickCount() < escapeFrom_;
+    escapeFrom_ = std::max(escapeFrom_, GetTickCount() + restBetween);
+  }
+  if (!held) QDialog::keyPressEvent(event);
 }
 
 }  // namespace glonks

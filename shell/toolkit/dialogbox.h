@@ -23,7 +23,7 @@ class DialogBox : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  u32 shownAt_ = 0;  // GetTickCount
+  u32 escapeFrom_ = 0;  // GetTickCount from which on Escape counts
 };
 
 }  // namespace glonks
