@@ -12,6 +12,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "game/arcade.h"
+#include "game/freestyle.h"
 #include "game/loading/levels.h"
 #include "game/loading/newgame.h"
 #include "game/loading/pieces.h"
@@ -28,8 +29,8 @@
 #include "tests/fakes/toolkit.h"
 #include "tests/fakes/window.h"
 
-// How hard the Arcade levels are: a simple player plays each of them some times, without a screen
-// and as fast as it goes. bench_levels <game folder> [games a level]
+// How hard the Arcade levels are, and how long Freestyle lasts: a simple player plays each of them
+// some times, without a screen and as fast as it goes. bench_levels <game folder> [games a level]
 //
 // The player looks two turned rows ahead and does the first of them, a key at a time. A person
 // plans further, but doesn't see all that it sees.
@@ -39,9 +40,10 @@ using namespace glonks;
 
 constexpr i32 firstLevel = 3101;
 constexpr i32 lastLevel = 3108;
-constexpr i32 frameTime = 26;     // ms
-constexpr i32 keyPause = 300;     // ms between two keys of the player
-constexpr i32 longest = 900'000;  // ms; a game that goes on is broken off
+constexpr i32 freestyleLevel = 2193;
+constexpr i32 frameTime = 26;       // ms
+constexpr i32 keyPause = 300;       // ms between two keys of the player
+constexpr i32 longest = 1'800'000;  // ms; a game that goes on is broken off
 
 enum ScanCode : i32 { keyUp = 200, keyLeft = 203, keyRight = 205, keyDown = 208 };
 
@@ -252,6 +254,7 @@ class Player {
 struct Tally {
   i32 wins = 0, fullColumn = 0, time = 0, avoid = 0, brokenOff = 0;
   double seconds = 0;
+  double points = 0;
 };
 
 void playGame(i32 level, i32 game, Tally& tally) {
@@ -263,15 +266,17 @@ void playGame(i32 level, i32 game, Tally& tally) {
   loadPieces();
   const i32 start = gameTick();
   minuteStart = start;
-  loadLevel("\\levels\\" + plainNumber(level), True);
+  const bool freestyle = level == freestyleLevel;
+  loadLevel("\\levels\\" + plainNumber(level), flagOf(!freestyle));
   Player player;
   fake::messages = [&] {
     fake::clockNow += frameTime;
     player.play();
     if (gameTick() > longest) gameOver = True;
   };
-  playArcade();
+  freestyle ? play() : playArcade();
 
+  tally.points += score;
   tally.seconds += (gameTick() - start) / 1000.0;
   if (levelWon == True) {
     ++tally.wins;
@@ -297,12 +302,14 @@ void setUp(const std::string& gameFolder) {
 void report(i32 level, i32 games) {
   Tally tally;
   for (i32 game = 1; game <= games; ++game) playGame(level, game, tally);
-  std::cout << level << "  " << std::left << std::setw(16) << levelTitle << std::right;
+  const std::string title = level == freestyleLevel ? "Freestyle" : levelTitle;
+  std::cout << level << "  " << std::left << std::setw(16) << title << std::right;
   for (const i32 count :
        {games, tally.wins, tally.fullColumn, tally.time, tally.avoid, tally.brokenOff}) {
     std::cout << std::setw(12) << count;
   }
-  std::cout << std::setw(13) << std::lround(tally.seconds / games) << std::endl;
+  std::cout << std::setw(13) << std::lround(tally.seconds / games) << std::setw(12)
+            << std::lround(tally.points / games) << std::endl;
 }
 
 }  // namespace
@@ -316,7 +323,8 @@ int main(int argc, char** argv) {
   try {
     setUp(argv[1]);
     std::cout << "level                        games        wins full column        time       "
-                 "avoid  broken off mean seconds\n";
+                 "avoid  broken off mean seconds mean points\n";
+    report(freestyleLevel, games);
     for (i32 level = firstLevel; level <= lastLevel; ++level) report(level, games);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
