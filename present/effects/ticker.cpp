@@ -29,8 +29,7 @@ Surface glyphFor(char character) {
 
 // Oddity 18: nothing waits, so of several announcements in one frame only the last is seen.
 void pushMessage(const std::string& text) {
-  tickerLines.clear();
-  tickerUpper = -1;
+  erase(tickerLines, tickerUpper);
   i32 x = letterStart;
   for (const char character : text.substr(0, longestText)) {
     grow(tickerLines, tickerUpper) = {glyphFor(character), static_cast<i16>(x)};
