@@ -52,7 +52,7 @@ bool LevelReach::lands(const std::string& name) const {
       [&name](const Piece& piece) { return piece.name == name && piece.isBowlingBall == False; });
 }
 
-bool LevelReach::goes(const std::string& name) const {
+bool LevelReach::canBeRemoved(const std::string& name) const {
   const bool pinsFall =
       some([this](const Piece& piece) { return piece.isPin == True && isRemovable(piece); });
   return lands(name) && (pinsFall || some([this, &name](const Piece& piece) {
