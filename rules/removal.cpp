@@ -11,15 +11,14 @@
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
 #include "rules/fruit.h"
+#include "rules/points.h"
 #include "rules/rowshift.h"
 
 namespace glonks {
 namespace {
 
-constexpr i16 baubleSpawns = 3;  // pieces that a Bauble removed too early queues
 constexpr i16 lastSpreadColumn = 6;
 constexpr std::size_t glonkVarieties = 4;  // 1 to 4
-constexpr i32 fruitPoints = 5000;
 
 // Oddity 16: a Bauble that is overdue, but hasn't been scanned yet, counts for no piece goal,
 // though it queues its pieces.
@@ -118,7 +117,7 @@ void explodeBomb(i16 row, i16 column) {
   settlePieces();
   if (!fruitCocktail) return;
   pushMessage("Fruit cocktail bonus!  5000 points");
-  payScore(fruitPoints);
+  payScore(cocktailPoints);
   fruitize();
 }
 

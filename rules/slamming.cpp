@@ -6,16 +6,16 @@
 #include "game/model/model.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
+#include "rules/points.h"
 #include "rules/removal.h"
 #include "rules/rowshift.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 bonusAbove = 6;     // upper bound of the eliminations
-constexpr i32 bonusPoints = 400;  // for every two of them
-constexpr i16 zapLeft = 100;      // x of a zap in column 0
-constexpr i16 zapTop = 80;        // from a piece's y to its zap's
+constexpr i32 bonusAbove = 6;  // upper bound of the eliminations
+constexpr i16 zapLeft = 100;   // x of a zap in column 0
+constexpr i16 zapTop = 80;     // from a piece's y to its zap's
 
 // From one Slammer to another of the same line: a row if horizontal, else a column.
 struct Segment {
@@ -92,7 +92,7 @@ void addRuns(const std::vector<Segment>& segments, Flag horizontal,
 
 void payBonus(i32 upper) {
   if (upper <= bonusAbove) return;
-  const i32 bonus = upper / 2 * bonusPoints;
+  const i32 bonus = upper / 2 * slamBonusPoints;
   payScore(bonus);
   pushMessage("Slam bonus!  " + signedNumber(bonus) + " points");
 }
