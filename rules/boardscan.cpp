@@ -6,10 +6,11 @@
 #include "game/model/resources.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
+#include "rules/bombs.h"
 #include "rules/generation.h"
 #include "rules/points.h"
-#include "rules/removal.h"
 #include "rules/rowshift.h"
+#include "rules/settling.h"
 #include "rules/slamming.h"
 #include "rules/timer.h"
 

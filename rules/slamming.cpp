@@ -8,7 +8,7 @@
 #include "present/effects/ticker.h"
 #include "rules/points.h"
 #include "rules/removal.h"
-#include "rules/rowshift.h"
+#include "rules/settling.h"
 
 namespace glonks {
 namespace {
