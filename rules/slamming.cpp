@@ -62,9 +62,10 @@ Elimination placeAt(const Segment& segment, i16 at, Flag horizontal) {
 
 Cell& cellOf(const Elimination& place) { return cellAt(place.row, place.column); }
 
-// Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
-// Slammers counts as well. Oddity 10: the Slammers themselves aren't looked at, so one that a Bomb
-// has taken since the scan saw it still closes its segment.
+// Whether the segment holds nothing but identical pieces that can be slammed. Two adjacent Slammers
+// are a run too: the first cell looked at is then the second Slammer. Oddity 10: the Slammers
+// themselves aren't looked at otherwise, so one that a Bomb has taken since the scan saw it still
+// closes its segment.
 bool isRun(const Segment& segment, Flag horizontal) {
   const Cell& first = cellOf(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
   if (first.occupied != True) return false;
