@@ -15,8 +15,8 @@ Element& grow(std::vector<Element>& list, i16& upper) {
   if (upper == std::numeric_limits<i16>::max()) {
     throw RuntimeError(ErrorNumber::overflow, "A list of the game is full.");
   }
+  list.emplace_back();  // first, so that the bound stands if there is no memory for it
   ++upper;
-  list.resize(static_cast<std::size_t>(upper) + 1);
   return list.back();
 }
 

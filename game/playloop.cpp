@@ -13,18 +13,17 @@
 #include "rules/boardscan.h"
 #include "rules/falling.h"
 #include "rules/generation.h"
+#include "rules/points.h"
 #include "storage/files/log.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 firstSpawnDelay = 500;     // ms after the start of the loop
-constexpr i32 framePeriod = 25;          // ms, counted from the end of the Flip
-constexpr i32 timePointsPeriod = 10000;  // ms
-constexpr i32 timePoints = 3;            // each period
+constexpr i32 firstSpawnDelay = 500;  // ms after the start of the loop
+constexpr i32 framePeriod = 25;       // ms, counted from the end of the Flip
 
-// Fruit that can't be loaded gives the screen back in the middle of a frame. What is left of the
-// pass keeps away from it.
+// fruitize gives the screen back in the middle of a frame when a picture can't be loaded. What is
+// left of the pass keeps away from it.
 bool isScreenGone() { return !dd; }
 
 void runAll(const std::vector<Statement>& statements, Runner run) {

@@ -18,6 +18,9 @@ constexpr Rect zapSource{0, 0, 80, 80};
 constexpr i16 zapStep = 25;
 constexpr i16 zapEnd = 80;
 constexpr i32 zapCentre = 40;  // pixels from x or y, across the bar
+constexpr i32 zapLeft = -15;   // ends of a horizontal bar from x
+constexpr i32 zapRight = 70;
+constexpr i32 zapBottom = 95;  // lower end of a vertical bar from y, where it begins
 
 constexpr i16 popupStep = 10;  // pixels a frame, upward
 constexpr i16 popupEnd = -180;
@@ -35,12 +38,12 @@ void drawZap(const Zap& zap) {
   const i32 half = zap.age / 2;
   if (zap.horizontal == True) {
     const i32 centre = zap.y + zapCentre;
-    backBuffer->Blt({zap.x - 15, centre - half, zap.x + 70, centre + half}, zapHSurface, zapSource,
-                    bltKeyed);
+    backBuffer->Blt({zap.x + zapLeft, centre - half, zap.x + zapRight, centre + half}, zapHSurface,
+                    zapSource, bltKeyed);
   } else {
     const i32 centre = zap.x + zapCentre;
-    backBuffer->Blt({centre - half, zap.y, centre + half, zap.y + 95}, zapVSurface, zapSource,
-                    bltKeyed);
+    backBuffer->Blt({centre - half, zap.y, centre + half, zap.y + zapBottom}, zapVSurface,
+                    zapSource, bltKeyed);
   }
 }
 

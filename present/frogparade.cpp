@@ -12,14 +12,16 @@ constexpr Rect frogSource{0, 0, 100, 100};
 constexpr i16 lastFrog = 19;
 constexpr i16 frogPictureCount = 5;
 constexpr i32 frogStarts = 2000;  // different x of a start
+constexpr i32 shortestDelay = 4;  // pictureDelay is this or one more
+constexpr i32 slowestFrog = 7;    // speed is this or one more
 constexpr i32 soundChance = 200;  // a frame's draw; each of the lowest numbers is a sound
 
 void addFrog() {
   Frog& frog = grow(frogs, frogsUpper);
   frog.x = static_cast<i16>(drawBelow(frogStarts));
   frog.picture = static_cast<i16>(drawBelow(frogPictureCount) + 1);
-  frog.pictureDelay = static_cast<i16>(drawBelow(2) + 4);
-  frog.speed = static_cast<i16>(drawBelow(2) + 7);
+  frog.pictureDelay = static_cast<i16>(drawBelow(2) + shortestDelay);
+  frog.speed = static_cast<i16>(drawBelow(2) + slowestFrog);
 }
 
 void turnPicture(Frog& frog) {

@@ -6,20 +6,19 @@
 #include "game/model/resources.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
+#include "rules/bombs.h"
 #include "rules/generation.h"
-#include "rules/removal.h"
+#include "rules/points.h"
 #include "rules/rowshift.h"
+#include "rules/settling.h"
 #include "rules/slamming.h"
 #include "rules/timer.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 diamondPoints = 100;
 constexpr i32 diamondPaid = -1;  // expiry of a Diamond that has paid
-constexpr i32 baublePoints = 500;
 constexpr i16 pythagoreanGoal = 1500;
-constexpr i32 pythagoreanPoints = 2500;
 
 struct ShifterTurn {
   i16 row = 0;

@@ -24,7 +24,8 @@ void bounce(Piece& piece, i16 floor) {
   piece.velocity = static_cast<i16>(roundHalfEven(-piece.velocity * bounceFactor));
   ++piece.bounces;
   piece.y = floor;
-  piece.landSound = connectSounds[static_cast<std::size_t>(drawBelow(3))];
+  const i32 sound = drawBelow(static_cast<i32>(connectSounds.size()));
+  piece.landSound = connectSounds[static_cast<std::size_t>(sound)];
   piece.landSound->Play(0);
 }
 

@@ -7,12 +7,12 @@
 #include "game/model/model.h"
 #include "present/screen/display.h"
 #include "present/screen/keyedpicture.h"
+#include "rules/points.h"
 #include "storage/files/log.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 fruitValue = 100;  // points more
 constexpr std::array<const char*, 4> fruitPictures = {"apple", "orange", "cherry", "grapes"};
 
 // Only the catalogue's pictures are ever drawn. Oddity 25: every Glonk of the game gets one of its
@@ -23,7 +23,7 @@ void turnToFruit(Piece& piece) {
   if (fruit < fruitPictures.size()) {
     piece.surface = loadKeyedPicture(fruitPictures[fruit], piece.surfaceDesc);
   }
-  piece.value = clamped<i32>(i64{piece.value} + fruitValue);
+  piece.value = clamped<i32>(i64{piece.value} + fruitPoints);
 }
 
 void turnAllToFruit() {

@@ -2,7 +2,7 @@
 
 namespace glonks {
 
-// Turns every Glonk of the game into fruit, worth 100 points more. An error ends the game: it
+// Turns every Glonk of the game into fruit, worth fruitPoints more. An error ends the game: it
 // stands in the log, and destroy has run.
 void fruitize();
 

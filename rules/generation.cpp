@@ -5,14 +5,14 @@
 #include "game/model/catalogue.h"
 #include "game/model/model.h"
 #include "rules/bowling.h"
+#include "rules/points.h"
 #include "rules/timer.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 draws = 1000;            // kinds are drawn from 0 to 999
-constexpr i32 calculatorValues = 200;  // different values of a Calculator
-constexpr i32 calculatorShift = 100;   // taken off while the Pythagorean bonus is open
+constexpr i32 draws = 1000;           // kinds are drawn from 0 to 999
+constexpr i32 calculatorShift = 100;  // taken off while the Pythagorean bonus is open
 
 void enter(Piece& piece) {
   piece.alive = True;

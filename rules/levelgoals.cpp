@@ -12,7 +12,7 @@ namespace {
 
 constexpr double msPerSecond = 1000;
 
-bool hasPieceGoal() { return goalPieceName != noName && goalPieceName != "Nothing"; }
+bool hasPieceGoal() { return goalPieceName != noName && goalPieceName != nothingName; }
 
 // Whether a timer counts as over for the goals. They look at the seconds of the level's file, which
 // nothing counts down, so that only negative ones make it so: from the last minute on.

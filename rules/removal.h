@@ -8,7 +8,4 @@ namespace glonks {
 // goals, what its kind does. An empty cell is left alone.
 void removePiece(i16 row, i16 column);
 
-// The Bomb in a cell goes off and takes its bombable neighbours with it.
-void explodeBomb(i16 row, i16 column);
-
 }  // namespace glonks

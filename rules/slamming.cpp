@@ -6,16 +6,16 @@
 #include "game/model/model.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
+#include "rules/points.h"
 #include "rules/removal.h"
-#include "rules/rowshift.h"
+#include "rules/settling.h"
 
 namespace glonks {
 namespace {
 
-constexpr i32 bonusAbove = 6;     // upper bound of the eliminations
-constexpr i32 bonusPoints = 400;  // for every two of them
-constexpr i16 zapLeft = 100;      // x of a zap in column 0
-constexpr i16 zapTop = 80;        // from a piece's y to its zap's
+constexpr i32 bonusAbove = 6;  // upper bound of the eliminations
+constexpr i16 zapLeft = 100;   // x of a zap in column 0
+constexpr i16 zapTop = 80;     // from a piece's y to its zap's
 
 // From one Slammer to another of the same line: a row if horizontal, else a column.
 struct Segment {
@@ -62,9 +62,10 @@ Elimination placeAt(const Segment& segment, i16 at, Flag horizontal) {
 
 Cell& cellOf(const Elimination& place) { return cellAt(place.row, place.column); }
 
-// Whether the segment holds nothing but identical pieces that can be slammed. Nothing between two
-// Slammers counts as well. Oddity 10: the Slammers themselves aren't looked at, so one that a Bomb
-// has taken since the scan saw it still closes its segment.
+// Whether the segment holds nothing but identical pieces that can be slammed. Two adjacent Slammers
+// are a run too: the first cell looked at is then the second Slammer. Oddity 10: the Slammers
+// themselves aren't looked at otherwise, so one that a Bomb has taken since the scan saw it still
+// closes its segment.
 bool isRun(const Segment& segment, Flag horizontal) {
   const Cell& first = cellOf(placeAt(segment, static_cast<i16>(segment.low + 1), horizontal));
   if (first.occupied != True) return false;
@@ -92,7 +93,7 @@ void addRuns(const std::vector<Segment>& segments, Flag horizontal,
 
 void payBonus(i32 upper) {
   if (upper <= bonusAbove) return;
-  const i32 bonus = upper / 2 * bonusPoints;
+  const i32 bonus = upper / 2 * slamBonusPoints;
   payScore(bonus);
   pushMessage("Slam bonus!  " + signedNumber(bonus) + " points");
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <map>
 #include <optional>
 #include <set>
@@ -10,8 +11,9 @@
 
 #include "base/errors.h"
 #include "base/text.h"
-#include "game/loading/levels.h"
 #include "game/model/model.h"
+#include "game/model/piecefields.h"
+#include "present/effects/ticker.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/textchannels.h"
@@ -24,8 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
-constexpr std::size_t longestTitle = 636;  // what the ticker takes
-constexpr double minute = 60'000;          // ms
+constexpr double minute = 60'000;  // ms
 const std::string freestyleFile = std::to_string(freestyleLevel);
 
 struct Field {
@@ -87,21 +88,30 @@ class LevelCheck {
   }
 
   // A failure in reading is a fault too.
-  void readPlain(const fs::path& file, void (LevelCheck::*read)()) {
+  void readPlain(const fs::path& file, void (LevelCheck::*check)()) {
     file_ = file;
+    line_ = 1;
     const ChannelGuard guard(plainChannel);
     try {
       openChannel(plainChannel, file.string(), ChannelMode::input, file.filename().string());
-      (this->*read)();
+      (this->*check)();
     } catch (const RuntimeError& error) {
-      fault(isChannelOpen(plainChannel) ? channelLine(plainChannel) : 1, error.what());
+      fault(line_, error.what());
     }
   }
 
-  using Reader = std::string (*)(i16 channel, const std::string& fieldName);
-  static Field textOf(const std::string& name, Reader read = readField) {
-    const i32 line = channelLine(plainChannel);
-    return {name, read(plainChannel, name), line, {}};
+  template <typename Value>
+  using Reader = Value (*)(i16 channel, const std::string& fieldName);
+
+  template <typename Value>
+  Value read(Reader<Value> reader, const std::string& fieldName) {
+    line_ = channelLine(plainChannel);
+    return reader(plainChannel, fieldName);
+  }
+
+  Field textOf(const std::string& name, Reader<std::string> reader = readField) {
+    const std::string text = read(reader, name);
+    return {name, text, line_, {}};
   }
 
   template <typename Whole = i16>
@@ -125,16 +135,9 @@ class LevelCheck {
     piece.name = name.text;
     piece.variety = static_cast<i16>(toNumber(textOf("variety")).number.value_or(0));
     textOf("picture");
-    for (Flag Piece::*const flag :
-         {&Piece::bombable, &Piece::spareFlagA, &Piece::slammable, &Piece::isBauble, &Piece::isBomb,
-          &Piece::isCalculator, &Piece::isDiamond, &Piece::isGorgon, &Piece::isShifter,
-          &Piece::isMoney, &Piece::spareFlagB, &Piece::isBowlingBall, &Piece::isSlammer}) {
-      piece.*flag = readFlag(plainChannel, "flag");
-    }
-    for (i32 Piece::*const number : {&Piece::value, &Piece::timerMax, &Piece::timerMin}) {
-      piece.*number = readI32(plainChannel, "number");
-    }
-    piece.isPin = readFlag(plainChannel, "isPin");
+    for (const auto& [field, flag] : pieceFlags) piece.*flag = read(readFlag, field);
+    for (const auto& [field, number] : pieceNumbers) piece.*number = read(readI32, field);
+    piece.isPin = read(readFlag, "isPin");
   }
 
   void checkLevel() {
@@ -155,7 +158,9 @@ class LevelCheck {
     const Field title = textOf("levelTitle", readLine);
     level.title = title.text;
     if (trimmed(title.text).empty()) fault(title, "is empty.");
-    if (title.text.size() > longestTitle) fault(title, "is longer than 636 characters.");
+    if (title.text.size() > longestMessage) {
+      fault(title, "is longer than " + std::to_string(longestMessage) + " characters.");
+    }
     level.rewardName = textOf("rewardLevelName", readLine);
     level.reward = toNumber(textOf("rewardLevelFile", readLine));
     // The order of the file.
@@ -179,7 +184,7 @@ class LevelCheck {
     Field piece = textOf(pieceName);
     if (count.number == -1) {
       const bool mayBeNothing = pieceName == "goalPieceName";
-      const bool none = piece.text == noName || (mayBeNothing && piece.text == "Nothing");
+      const bool none = piece.text == noName || (mayBeNothing && piece.text == nothingName);
       if (!none) fault(piece, "isn't -1, but " + countName + " is.");
     } else if (count.number) {
       if (*count.number < 1) fault(count, "is neither -1 nor above 0.");
@@ -244,7 +249,8 @@ class LevelCheck {
   void checkReach(const Goals& goals, const Field& interval, const LevelReach& reach) {
     const auto& [remove, score, limit, survive, avoid, land] = goals;
     for (const Counted* goal : {&remove, &avoid}) {
-      if (isOn(goal->count) && checkComes(goal->piece, reach) && !reach.goes(goal->piece.text)) {
+      if (isOn(goal->count) && checkComes(goal->piece, reach) &&
+          !reach.canBeRemoved(goal->piece.text)) {
         fault(goal->piece, "\"" + goal->piece.text + "\" can't be removed by anything that comes.");
       }
     }
@@ -366,31 +372,32 @@ class LevelCheck {
       const Field title = textOf("level name", readLine);
       const Field number = toNumber(textOf("level number", readLine));
       checkLink(title, number);
-      reach(number);
+      markOpenable(number);
     }
   }
 
   // Marks the level of a number and all that winning opens from there on.
-  void reach(const Field& number) {
+  void markOpenable(const Field& number) {
     if (!number.number) return;
     const auto found = levels_.find(plainNumber(*number.number));
-    if (found == levels_.end() || !reached_.insert(found->first).second) return;
-    reach(found->second.reward);
+    if (found == levels_.end() || !openable_.insert(found->first).second) return;
+    markOpenable(found->second.reward);
   }
 
   void checkLinks(const std::string& name, const Level& level) {
     file_ = folder_ / name;
     checkLink(level.rewardName, level.reward);
-    if (reached_.count(name) == 0) fault(1, "no level that can be reached opens this one.");
+    if (openable_.count(name) == 0) fault(1, "no level that can be reached opens this one.");
   }
 
   fs::path init_;
   fs::path folder_;
   fs::path file_;  // the file that faults are about
+  i32 line_ = 1;   // where the field stands that is being read, or was read last
   std::vector<LevelFault> faults_;
   std::vector<Piece> pieces_;            // by slot, with what their files say of the rules
   std::map<std::string, Level> levels_;  // Arcade levels by file name
-  std::set<std::string> reached_;        // the file names of those that can be opened
+  std::set<std::string> openable_;       // the file names of those that can be opened
 };
 
 }  // namespace

@@ -5,24 +5,18 @@
 #include <cstdlib>
 #include <limits>
 
+#include "rules/points.h"
+
 namespace glonks {
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double baublePieces = 3;           // that a Bauble queues when it is removed
-constexpr double timePointsPeriod = 10'000;  // ms
-constexpr double timePoints = 3;
-constexpr double diamondPoints = 100;
-constexpr double baublePoints = 500;
-constexpr double mostCalculated = 199;
-constexpr double pythagoreanPoints = 2500;
-constexpr double cocktailPoints = 5000;
+constexpr double mostCalculated = calculatorValues - 1;
 constexpr double cocktailPieces = 5;  // a Bomb and four Glonks
-constexpr double fruitPoints = 100;   // that each cocktail adds to a Glonk
-// The slam bonus is 200 points for each entry of a run, and each run is entered twice. A piece lies
-// in one run of its row and one of its column, a Slammer ends two of each.
-constexpr double slamPoints = 800;
-constexpr double slammerPoints = 1600;
+// Each run is entered twice, so a place in it adds slamBonusPoints. A piece lies in one run of its
+// row and one of its column, a Slammer ends two of each.
+constexpr double slamPoints = 2 * slamBonusPoints;
+constexpr double slammerPoints = 4 * slamBonusPoints;
 
 // How often the timer of a piece can run out.
 double timesUp(const Piece& piece, double time) {
@@ -52,7 +46,7 @@ bool LevelReach::lands(const std::string& name) const {
       [&name](const Piece& piece) { return piece.name == name && piece.isBowlingBall == False; });
 }
 
-bool LevelReach::goes(const std::string& name) const {
+bool LevelReach::canBeRemoved(const std::string& name) const {
   const bool pinsFall =
       some([this](const Piece& piece) { return piece.isPin == True && isRemovable(piece); });
   return lands(name) && (pinsFall || some([this, &name](const Piece& piece) {
@@ -70,7 +64,7 @@ bool LevelReach::isRemovable(const Piece& piece) const {
 double LevelReach::spawns(double time, i32 interval) const {
   if (some(&Piece::isPin)) return infinity;
   const double drawn = std::floor(time / interval) + 1;
-  return some(&Piece::isBauble) ? drawn * (1 + baublePieces) : drawn;
+  return some(&Piece::isBauble) ? drawn * (1 + baubleSpawns) : drawn;
 }
 
 double LevelReach::mostPieces(const std::string& name, double time, i32 interval) const {

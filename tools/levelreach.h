@@ -23,7 +23,7 @@ class LevelReach {
 
   // Whether a piece of this name can be removed: by a slam, a Bomb, a Bowling Ball or a Pin. A
   // Bauble that leaves by its own timer isn't removed.
-  bool goes(const std::string& name) const;
+  bool canBeRemoved(const std::string& name) const;
 
   // At most so many pieces of a name come in `time`, with a spawn every `interval`, both in ms. See
   // docs/data-files.md for both bounds; they are infinite if a Pin comes, which may count often.

@@ -1,10 +1,9 @@
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <string>
 #include <vector>
 
-#include "base/errors.h"
 #include "base/paths.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/playerfiles.h"

@@ -11,23 +11,19 @@ namespace glonks {
 namespace {
 
 constexpr i16 levelChannel = 4;
-using Small = std::numeric_limits<i16>;
-
-i16 rounded(const std::string& fieldName, double number) {
-  return static_cast<i16>(
-      roundedField(levelChannel, fieldName, number, Small::min(), Small::max()));
-}
 
 // Minutes are held one less than the file says: the countdown begins at 59 seconds.
 i16 readMinutes(const std::string& fieldName) {
-  return rounded(fieldName, leadingNumber(readField(levelChannel, fieldName)) - 1);
+  return fittingI16(levelChannel, fieldName, leadingNumber(readField(levelChannel, fieldName)) - 1);
 }
 
 i32 readSpawnInterval() {
   const char* fieldName = "spawnInterval";
   const i32 interval = readWholeI32(levelChannel, fieldName);
   if (interval < 1) badField(levelChannel, fieldName, "isn't above 0.");
-  if (interval > longestInterval) badField(levelChannel, fieldName, "is above 3,600,000.");
+  if (interval > longestInterval) {
+    badField(levelChannel, fieldName, "is above " + plainNumber(longestInterval) + ".");
+  }
   return interval;
 }
 
@@ -41,8 +37,8 @@ void readGoals() {
   levelTitle = readLine(levelChannel, "levelTitle");
   rewardLevelName = readLine(levelChannel, "rewardLevelName");
   pushMessage(levelTitle);
-  rewardLevelFile =
-      rounded("rewardLevelFile", leadingNumber(readLine(levelChannel, "rewardLevelFile")));
+  rewardLevelFile = fittingI16(levelChannel, "rewardLevelFile",
+                               leadingNumber(readLine(levelChannel, "rewardLevelFile")));
   goalPieceCount = readI16(levelChannel, "goalPieceCount");
   goalPieceName = readField(levelChannel, "goalPieceName");
   goalScore = readI32(levelChannel, "goalScore");

@@ -1,7 +1,7 @@
 #pragma once
 
 // Loads samples and pictures from the folders beside the program. Both routines need initDX, and
-// raise fileNotFound or badFile, naming the file.
+// raise fileNotFound, fileAccess or badFile, naming the file.
 namespace glonks {
 
 // The 24 samples of a game, from "\sounds\".

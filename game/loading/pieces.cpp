@@ -1,6 +1,7 @@
 #include "game/loading/pieces.h"
 
 #include "game/model/model.h"
+#include "game/model/piecefields.h"
 #include "present/screen/keyedpicture.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
@@ -13,28 +14,14 @@ namespace {
 constexpr i16 pieceChannel = 3;
 constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
 
-// Reads the fields in the order of the file. Returns the picture's name.
+// Returns the picture's name.
 std::string readPiece(i16 channel, Piece& piece) {
   piece.name = readField(channel, "name");
   if (piece.name.empty()) badField(channel, "name", "is empty.");
   piece.variety = readI16(channel, "variety");
   std::string picture = readField(channel, "picture");
-  piece.bombable = readFlag(channel, "bombable");
-  piece.spareFlagA = readFlag(channel, "spareFlagA");
-  piece.slammable = readFlag(channel, "slammable");
-  piece.isBauble = readFlag(channel, "isBauble");
-  piece.isBomb = readFlag(channel, "isBomb");
-  piece.isCalculator = readFlag(channel, "isCalculator");
-  piece.isDiamond = readFlag(channel, "isDiamond");
-  piece.isGorgon = readFlag(channel, "isGorgon");
-  piece.isShifter = readFlag(channel, "isShifter");
-  piece.isMoney = readFlag(channel, "isMoney");
-  piece.spareFlagB = readFlag(channel, "spareFlagB");
-  piece.isBowlingBall = readFlag(channel, "isBowlingBall");
-  piece.isSlammer = readFlag(channel, "isSlammer");
-  piece.value = readI32(channel, "value");
-  piece.timerMax = readI32(channel, "timerMax");
-  piece.timerMin = readI32(channel, "timerMin");
+  for (const auto& [name, flag] : pieceFlags) piece.*flag = readFlag(channel, name);
+  for (const auto& [name, number] : pieceNumbers) piece.*number = readI32(channel, name);
   piece.isPin = readFlag(channel, "isPin");
   return picture;
 }

@@ -8,7 +8,7 @@
 namespace glonks {
 
 // The piece of the file "\init\" and a four-digit id, with its picture. Raises fileNotFound,
-// inputPastEnd, overflow or badFile, naming file and field.
+// fileAccess, inputPastEnd, overflow or badFile, naming file and field.
 Piece loadPiece(const std::string& fileId);
 
 // Fills pieceCatalog from the 19 piece files, and slot 19 with its picture. Needs initDX and

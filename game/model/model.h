@@ -188,14 +188,17 @@ inline void payScore(i64 points) { score = clamped<i32>(score + points); }
 // Takes one off a count; it stays at the end of its 16 bits.
 inline void countDown(i16& count) { count = clamped<i16>(i32{count} - 1); }
 
-// How "no goal" reads in the level fields.
+inline constexpr i32 longestInterval = 3'600'000;  // ms; the largest spawnInterval of a level
+
+// How "no goal" reads in the level fields; for a piece goal either word.
 inline const std::string noName = "-1";
+inline const std::string nothingName = "Nothing";
 
 inline std::string levelTitle;              // reset: empty
 inline std::string rewardLevelName;         // level that winning opens; reset: empty
 inline i16 rewardLevelFile = 0;             // its file number; reset: 0
 inline i16 goalPieceCount = -1;             // pieces of goalPieceName still to remove; reset: -1
-inline std::string goalPieceName = noName;  // "-1" and "Nothing" mean none; reset: "-1"
+inline std::string goalPieceName = noName;  // reset: "-1"
 inline i32 goalScore = -1;                  // score to reach; reset: -1
 inline Flag limitOn = False;                // time limit; reset: False, -1, -1
 inline i16 limitMinutes = -1;
@@ -210,7 +213,7 @@ inline Flag landOn = False;  // pieces named landName that must still land;
 inline i16 landLeft = -1;    // reset: False, -1, "-1"
 inline std::string landName = noName;
 inline i32 minuteStart = 0;     // game tick at which a timer's minute began; reset: 0
-inline Flag levelOver = False;  // the outcome is decided; cleared with the level's loading
-inline Flag levelWon = False;   // the level was won; cleared with the level's loading
+inline Flag levelOver = False;  // the outcome is decided; cleared by loading a level and by Arcade
+inline Flag levelWon = False;   // the level was won; cleared by loading a level
 
 }  // namespace glonks

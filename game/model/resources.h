@@ -8,8 +8,8 @@
 #include "present/services/directsound.h"
 #include "present/services/surface.h"
 
-// Samples and pictures of a game. initVariables loads them all again for each game; a sample bears
-// the name of its wave file.
+// Samples and pictures of a game. initVariables loads them all again for each game; a sample is
+// named after its wave file.
 namespace glonks {
 
 inline Sample _changerow;                     // a row shifts

@@ -6,9 +6,8 @@
 namespace glonks {
 namespace {
 
-constexpr i32 letterStart = 1000;         // x of the first letter
-constexpr i32 letterPitch = 50;           // pixels
-constexpr std::size_t longestText = 636;  // the next letter's x would leave its 16 bits
+constexpr i32 letterStart = 1000;  // x of the first letter
+constexpr i32 letterPitch = 50;    // pixels
 
 // Place in glyphSurfaces; glyphCount for a character without a picture.
 i32 glyphIndex(char character) {
@@ -29,10 +28,9 @@ Surface glyphFor(char character) {
 
 // Oddity 18: nothing waits, so of several announcements in one frame only the last is seen.
 void pushMessage(const std::string& text) {
-  tickerLines.clear();
-  tickerUpper = -1;
+  erase(tickerLines, tickerUpper);
   i32 x = letterStart;
-  for (const char character : text.substr(0, longestText)) {
+  for (const char character : text.substr(0, longestMessage)) {
     grow(tickerLines, tickerUpper) = {glyphFor(character), static_cast<i16>(x)};
     x += letterPitch;
   }

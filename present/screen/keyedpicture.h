@@ -7,7 +7,7 @@
 namespace glonks {
 
 // The picture "\images\", the name and ".bmp", with the game's colour key set; `desc` receives its
-// size. Needs initDX. Raises fileNotFound or badFile, naming the file.
+// size. Needs initDX. Raises fileNotFound, fileAccess or badFile, naming the file.
 Surface loadKeyedPicture(const std::string& name, SurfaceDesc& desc);
 
 }  // namespace glonks

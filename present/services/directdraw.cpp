@@ -7,6 +7,7 @@
 #include "present/services/failure.h"
 #include "present/services/filebytes.h"
 #include "present/services/screen.h"
+#include "present/services/sdlsurface.h"
 #include "present/services/window.h"
 
 namespace glonks {
@@ -26,7 +27,7 @@ i32 littleEndian(const std::vector<unsigned char>& bytes, std::size_t at, std::s
   return static_cast<i32>(value);
 }
 
-// Turns away what claims to be a picture of a size that no picture of the game has, before memory
+// Rejects what claims to be a picture of a size that no picture of the game has, before memory
 // is taken for it.
 void checkHeader(const std::string& path, const std::vector<unsigned char>& bytes) {
   constexpr std::size_t header = 26;  // up to width and height, which follow the header's own size
@@ -73,24 +74,20 @@ Surface DirectDraw7::CreateSurface(const SurfaceDesc& desc) {
 Surface DirectDraw7::CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc) {
   const std::vector<unsigned char> bytes = fileBytes(path);
   checkHeader(path, bytes);
-  SDL_Surface* loaded =
-      SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
-  if (loaded == nullptr) fail(ErrorNumber::badFile, unusable(path));
-  SDL_Surface* converted = SDL_ConvertSurfaceFormat(loaded, SDL_PIXELFORMAT_RGB888, 0);
-  SDL_FreeSurface(loaded);
-  if (converted == nullptr) fail(ErrorNumber::badFile, unusable(path));
+  SdlSurface picture(
+      SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1));
+  if (picture) picture.reset(SDL_ConvertSurfaceFormat(picture.get(), SDL_PIXELFORMAT_RGB888, 0));
+  if (!picture) fail(ErrorNumber::badFile, unusable(path));
 
-  const i32 width = converted->w;
-  const i32 height = converted->h;
+  const i32 width = picture->w;
+  const i32 height = picture->h;
   std::vector<u32> pixels;
   pixels.reserve(static_cast<std::size_t>(width) * height);
   for (i32 y = 0; y < height; ++y) {
-    const auto* row =
-        reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(converted->pixels) +
-                                        static_cast<std::size_t>(y) * converted->pitch);
+    const auto* row = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(picture->pixels) +
+                                                      static_cast<std::size_t>(y) * picture->pitch);
     for (i32 x = 0; x < width; ++x) pixels.push_back(row[x] & 0xFFFFFFU);
   }
-  SDL_FreeSurface(converted);
   auto surface = std::make_shared<DirectDrawSurface7>(width, height);
   surface->setPixels(std::move(pixels));
   desc.width = width;

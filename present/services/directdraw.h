@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "base/types.h"
@@ -29,7 +28,7 @@ class DirectDraw7 {
   Surface CreateSurface(const SurfaceDesc& desc);
 
   // A surface with the picture of a bitmap file, of the bitmap's own size; `desc` takes that size.
-  // Raises fileNotFound or badFile, naming the file.
+  // Raises fileNotFound, fileAccess or badFile, naming the file.
   Surface CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc);
 
   // 0 while the game has the screen; another value while its window lacks the focus or is

@@ -16,8 +16,8 @@ class DirectInputDevice {
   // `flags` 0xA: not exclusive, in the background too.
   void SetCooperativeLevel(i32 hWnd, i32 flags);
   void Acquire();
-  // The keys as they stand at the message that is being handled. Losing the focus lets all keys go.
-  // Raises serviceFailed on a device that wasn't acquired.
+  // The keys as they stand at the message that is being handled. Losing the focus releases all
+  // keys. Raises serviceFailed on a device that wasn't acquired.
   void GetDeviceStateKeyboard(KeyState& state) const;
 
  private:

@@ -42,8 +42,8 @@ class DirectSound {
  public:
   // `level` 1: normal.
   void SetCooperativeLevel(i32 hWnd, i32 level);
-  // A sample from a wave file; it is brought to the device's own format. Raises fileNotFound or
-  // badFile, naming the file.
+  // A sample from a wave file; it is brought to the device's own format. Raises fileNotFound,
+  // fileAccess or badFile, naming the file.
   Sample CreateSoundBufferFromFile(const std::string& path, const SampleDesc& desc,
                                    const SampleFormat& format);
 };

@@ -3,13 +3,13 @@
 #include <SDL_ttf.h>
 #include <fontconfig/fontconfig.h>
 
-#include <algorithm>
 #include <map>
 #include <memory>
 #include <utility>
 
 #include "base/text.h"
 #include "present/services/failure.h"
+#include "present/services/sdlsurface.h"
 
 namespace glonks {
 namespace {
@@ -64,10 +64,10 @@ TextPicture rendered(TTF_Font* font, std::string text) {
   for (char& c : text) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }
-  SDL_Surface* surface =
-      TTF_RenderUTF8_Blended(font, toUtf8(text).c_str(), SDL_Color{255, 255, 255, 255});
+  const SdlSurface surface(
+      TTF_RenderUTF8_Blended(font, toUtf8(text).c_str(), SDL_Color{255, 255, 255, 255}));
   TextPicture picture;
-  if (surface == nullptr) return picture;  // nothing in it that could be seen
+  if (!surface) return picture;  // nothing in it that could be seen
   picture.width = surface->w;
   picture.height = surface->h;
   picture.coverage.reserve(static_cast<std::size_t>(surface->w) * surface->h);
@@ -78,7 +78,6 @@ TextPicture rendered(TTF_Font* font, std::string text) {
       picture.coverage.push_back(static_cast<unsigned char>(row[x] >> 24U));
     }
   }
-  SDL_FreeSurface(surface);
   return picture;
 }
 

@@ -9,7 +9,7 @@ namespace glonks {
 namespace {
 
 KeyState keys = {};
-std::array<bool, SDL_NUM_SCANCODES> dead = {};
+std::array<bool, SDL_NUM_SCANCODES> muted = {};
 
 // The physical keys and their DirectInput scan codes.
 // clang-format off
@@ -57,27 +57,27 @@ const KeyState& keyTable() { return keys; }
 
 bool pressKey(i32 key) {
   constexpr unsigned char down = 0x80;
-  if (dead[static_cast<std::size_t>(key)]) return false;
+  if (muted[static_cast<std::size_t>(key)]) return false;
   setKey(key, down);
   return true;
 }
 
 void releaseKey(i32 key) {
   setKey(key, 0);
-  dead[static_cast<std::size_t>(key)] = false;
+  muted[static_cast<std::size_t>(key)] = false;
 }
 
 void releaseAllKeys() { keys.fill(0); }
 
-void deadenHeldKeys() {
+void muteHeldKeys() {
   int count = 0;
   const Uint8* held = SDL_GetKeyboardState(&count);
-  for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) dead[i] = held[i] != 0;
+  for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) muted[i] = held[i] != 0;
 }
 
 void forgetKeys() {
   releaseAllKeys();
-  dead.fill(false);
+  muted.fill(false);
 }
 
 }  // namespace glonks

@@ -14,18 +14,18 @@ using KeyState = std::array<unsigned char, 256>;
 // The keys as they are at the event that is being handled, 0x80 for those that are down.
 const KeyState& keyTable();
 
-// A key goes down or comes up; `key` is SDL's scan code. A key that is dead stays up, and pressing
-// it returns false.
+// A key goes down or comes up; `key` is SDL's scan code. A key that is muted stays up, and
+// pressing it returns false.
 bool pressKey(i32 key);
 void releaseKey(i32 key);
 
 // All keys come up.
 void releaseAllKeys();
 
-// The keys that are held now are dead until they are let go. No other key is.
-void deadenHeldKeys();
+// The keys that are held now are muted until they are let go. No other key is.
+void muteHeldKeys();
 
-// All keys are up and none is dead.
+// All keys are up and none is muted.
 void forgetKeys();
 
 }  // namespace glonks

@@ -155,13 +155,11 @@ void showChanges(const u32* pixels) {
   }
 }
 
-// Whether OpenGL here is drawn by a graphics processor. Asked once, of a window that isn't shown.
-bool hasGraphicsProcessor() {
-  static int known = -1;
-  if (known >= 0) return known != 0;
-  known = 0;
+// Whether OpenGL here is drawn by a graphics processor, as a window that isn't shown tells.
+bool probeGraphicsProcessor() {
   SDL_Window* probe = SDL_CreateWindow("", 0, 0, 16, 16, SDL_WINDOW_OPENGL | SDL_WINDOW_HIDDEN);
   if (probe == nullptr) return false;
+  bool found = false;
   SDL_GLContext context = SDL_GL_CreateContext(probe);
   if (context != nullptr) {
     constexpr unsigned glRenderer = 0x1F01;
@@ -170,14 +168,19 @@ bool hasGraphicsProcessor() {
     const auto* name =
         getString == nullptr ? nullptr : reinterpret_cast<const char*>(getString(glRenderer));
     const std::string drawnBy = name == nullptr ? "" : name;
-    known = 1;
+    found = true;
     for (const char* software : {"llvmpipe", "softpipe", "swrast", "Software"}) {
-      if (drawnBy.find(software) != std::string::npos) known = 0;
+      if (drawnBy.find(software) != std::string::npos) found = false;
     }
     SDL_GL_DeleteContext(context);
   }
   SDL_DestroyWindow(probe);
-  return known != 0;
+  return found;
+}
+
+bool hasGraphicsProcessor() {
+  static const bool known = probeGraphicsProcessor();
+  return known;
 }
 
 // Whether the window's own surface can be had, in the form that the scaler writes.

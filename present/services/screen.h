@@ -11,10 +11,9 @@ void openScreen(i32 handle, i32 width, i32 height);
 void closeScreen();
 
 // Shows a picture of the size given to openScreen, rows from the top, pixels 0x00RRGGBB. Waits so
-// that two pictures are never less than the time between two refreshes of a 60 Hz display apart.
-// With a graphics processor the picture goes up as one texture. Without one, only the parts that
-// differ from the picture before are scaled and sent, which is what makes 40 pictures a second
-// cheap there.
+// that two pictures are never less than 16 ms apart. With a graphics processor the picture goes up
+// as one texture. Without one, only the parts that differ from the picture before are scaled and
+// sent, which is what makes 40 pictures a second cheap there. Raises serviceFailed.
 void showPicture(const u32* pixels);
 
 // The window's content is lost or its size has changed: shows the last picture again, whole and at

@@ -8,6 +8,7 @@
 #include "present/services/failure.h"
 #include "present/services/gamefont.h"
 #include "present/services/screen.h"
+#include "present/services/sdlsurface.h"
 
 namespace glonks {
 
@@ -40,11 +41,6 @@ namespace {
 
 constexpr std::size_t mostPrepared = 12;
 constexpr std::size_t mostStanding = 32;
-
-struct SurfaceDeleter {
-  void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-};
-using SdlSurface = std::unique_ptr<SDL_Surface, SurfaceDeleter>;
 
 SdlSurface wrapped(std::vector<u32>& pixels, i32 width, i32 height) {
   return SdlSurface(SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), width, height, 32, width * 4,
@@ -220,7 +216,10 @@ void DirectDrawSurface7::SetForeColor(i32 color) {
   standing_.clear();
 }
 
-void DirectDrawSurface7::SetFontTransparency(Flag transparent) { transparent_ = transparent; }
+void DirectDrawSurface7::SetFontTransparency(Flag transparent) {
+  transparent_ = transparent;
+  standing_.clear();
+}
 
 void DirectDrawSurface7::DrawText(i32 x, i32 y, const std::string& text, Flag /*atCursor*/) {
   if (text.empty()) return;

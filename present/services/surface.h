@@ -29,7 +29,7 @@ struct SurfaceDesc {
 
 struct GameFont {
   std::string name;
-  i32 size = 0;  // points, 96 to 72 pixels
+  i32 size = 0;  // points; 72 are 96 pixels
 };
 
 // Flags of Blt.
@@ -62,7 +62,8 @@ class DirectDrawSurface7 {
 
   // Draws the rectangle `from` of `source` into the rectangle `to` of this surface, stretched where
   // the sizes differ, and cut off at this surface's edges. An empty source draws nothing. Returns
-  // 0, or another status if nothing could be drawn.
+  // 0, or another status if nothing could be drawn. Raises serviceFailed if a picture can't be
+  // stretched.
   i32 Blt(const Rect& to, const Surface& source, const Rect& from, i32 flags);
 
   // Fills a rectangle with one colour.
@@ -75,10 +76,12 @@ class DirectDrawSurface7 {
   void SetFontTransparency(Flag transparent);
 
   // One line of text with its top left at (x, y). Drawing a text again where it stands already
-  // changes nothing, so its smooth edges don't get thicker.
+  // changes nothing, so its smooth edges don't get thicker. Raises serviceFailed if the font can't
+  // be had.
   void DrawText(i32 x, i32 y, const std::string& text, Flag atCursor);
 
-  // A primary surface's: its back buffer (`caps` 4), and showing that on the screen.
+  // A primary surface's: its back buffer (`caps` 4), and showing that on the screen. Flip raises
+  // serviceFailed if there is no back buffer or the screen can't show it.
   Surface GetAttachedSurface(i32 caps);
   void attachBackBuffer(Surface backBuffer);
   void Flip(const Surface& overrideSurface, i32 flags);

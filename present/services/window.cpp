@@ -26,7 +26,7 @@ void loseFocus() {
 void regainFocus() {
   focusLost = false;
   minimised = false;
-  deadenHeldKeys();
+  muteHeldKeys();
 }
 
 void handleKeyDown(const SDL_KeyboardEvent& event) {

@@ -1,6 +1,7 @@
 #include "storage/files/fieldreader.h"
 
 #include <cmath>
+#include <limits>
 
 #include "base/errors.h"
 #include "base/text.h"
@@ -16,7 +17,11 @@ std::string place(i16 channel, const std::string& fieldName) {
 template <typename Whole>
 Whole fitting(i16 channel, const std::string& fieldName, double number) {
   using Limits = std::numeric_limits<Whole>;
-  return static_cast<Whole>(roundedField(channel, fieldName, number, Limits::min(), Limits::max()));
+  const double rounded = roundHalfEven(number);
+  if (!(rounded >= Limits::min() && rounded <= Limits::max())) {
+    throw RuntimeError(ErrorNumber::overflow, place(channel, fieldName) + "is out of range.");
+  }
+  return static_cast<Whole>(rounded);
 }
 
 double numberField(i16 channel, const std::string& fieldName) {
@@ -29,16 +34,12 @@ double numberField(i16 channel, const std::string& fieldName) {
 
 }  // namespace
 
-i32 roundedField(i16 channel, const std::string& fieldName, double number, i32 low, i32 high) {
-  const double rounded = roundHalfEven(number);
-  if (!(rounded >= low && rounded <= high)) {
-    throw RuntimeError(ErrorNumber::overflow, place(channel, fieldName) + "is out of range.");
-  }
-  return static_cast<i32>(rounded);
+i16 fittingI16(i16 channel, const std::string& fieldName, double number) {
+  return fitting<i16>(channel, fieldName, number);
 }
 
 i16 readI16(i16 channel, const std::string& fieldName) {
-  return fitting<i16>(channel, fieldName, leadingNumber(readField(channel, fieldName)));
+  return fittingI16(channel, fieldName, leadingNumber(readField(channel, fieldName)));
 }
 
 i32 readI32(i16 channel, const std::string& fieldName) {
@@ -50,7 +51,7 @@ Flag readFlag(i16 channel, const std::string& fieldName) {
 }
 
 i16 readWholeI16(i16 channel, const std::string& fieldName) {
-  return fitting<i16>(channel, fieldName, std::floor(numberField(channel, fieldName)));
+  return fittingI16(channel, fieldName, std::floor(numberField(channel, fieldName)));
 }
 
 i32 readWholeI32(i16 channel, const std::string& fieldName) {

@@ -20,9 +20,8 @@ Flag readFlag(i16 channel, const std::string& fieldName);
 i16 readWholeI16(i16 channel, const std::string& fieldName);
 i32 readWholeI32(i16 channel, const std::string& fieldName);
 
-// The same conversion as readI16 and readI32 for a text that has been read already: `number` is
-// rounded, and raises overflow if it leaves the range from `low` to `high`.
-i32 roundedField(i16 channel, const std::string& fieldName, double number, i32 low, i32 high);
+// What readI16 does with a number, for one that has been read already.
+i16 fittingI16(i16 channel, const std::string& fieldName, double number);
 
 // Raises badFile for the channel's file: what is wrong with the field.
 [[noreturn]] void badField(i16 channel, const std::string& fieldName, const std::string& trouble);

@@ -7,6 +7,7 @@
 #include "present/goaldisplay.h"
 #include "present/itemdisplay.h"
 #include "rules/boardscan.h"
+#include "rules/bombs.h"
 #include "rules/generation.h"
 #include "rules/items.h"
 #include "rules/removal.h"

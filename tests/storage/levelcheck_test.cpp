@@ -22,7 +22,9 @@ struct Broken {
 
 // Levels 12 and 14 are opened by winning 11 and 12.
 const Broken brokenFiles[] = {
-    {"init/8752", {"", "one"}, {1, 2, 3}},
+    {"init/8752",
+     {"", "one", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "3E9"},
+     {1, 2, 18}},
     {"init/6537", {"One", "11", "Five", "15", "Six", "16", "Seven", "17", "None", "10"}, {1, 10}},
     {"levels/2193", {"3600001"}, {1, 2}},
     {"levels/11",
@@ -49,9 +51,7 @@ const Broken brokenFiles[] = {
      {"1", "Six", "Two", "12", "-1,-1", "-1", "-1,-1", "-1,-1", "-1,-1", "-1,-1", "Bomb,0,0",
       "Glonk,1,0,999,7", "Glonk,1,0,999", ""},
      {5, 11, 12, 14}},
-    {"levels/17",
-     {"1", "Seven", "Two", "12", "40000,Glonk", "-1", "-1,-1", "-1,-1", "-1,-1"},
-     {5, 10}},
+    {"levels/17", {"1", "Seven", "Two", "12", "40000,Glonk"}, {5, 6}},
     {"levels/20",
      {"1", "Never", "Two", "12", "1,Gorgon", "-1", "-1,-1", "-1,-1", "2,Rock", "-1,-1",
       "Bomb,0,0,0", "Glonk,4,1,799", "Rock,1,800,998", "Bauble,0,999,999"},
@@ -90,6 +90,7 @@ TEST_F(LevelCheck, TellsEachFaultWithFileAndLine) {
     EXPECT_EQ(found[data / file], faults) << file << texts;
   EXPECT_EQ(found.size(), std::size(brokenFiles)) << texts;
   EXPECT_PRED2(holds, texts, "\n24:6: goalScore is more than the 2018 that the time");
+  EXPECT_PRED2(holds, texts, "\n8752:18: The file \"8752\" is damaged: its field timerMax is");
   EXPECT_PRED2(holds, texts, "\n12:11: no piece for the draws 999 to 999.\n13:");
 }
 
