@@ -6,6 +6,7 @@
 #include "shell/links.h"
 #include "shell/menucontrols.h"
 #include "shell/pages.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/log.h"
 #include "storage/files/scrambledfiles.h"
@@ -13,8 +14,6 @@
 
 namespace glonks {
 namespace {
-
-constexpr i16 bandsChannel = 4;
 
 void fillBands() {
   ScrambledReader file(bandsPath, bandsChannel);

@@ -11,6 +11,7 @@
 #include "shell/menucontrols.h"
 #include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -18,7 +19,6 @@
 namespace glonks {
 namespace {
 
-constexpr i16 tipChannel = 7;
 constexpr i32 tipFont = 195;  // twips
 const std::string greeting = "Welcome to Glonks!  Have a good game.";
 

@@ -23,6 +23,7 @@
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/channels.h"
 #include "storage/files/scrambledfiles.h"
 
 namespace glonks {
@@ -64,7 +65,6 @@ std::string pathOfLevel() {
 // Whether the level's file can be read; the player is told if not. Looked at before the screen is
 // taken.
 bool levelReadable() {
-  constexpr i16 levelChannel = 4;
   return succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
 }
 

@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "storage/files/channels.h"
 #include "storage/files/salvage.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -150,7 +151,7 @@ Lines readPlayersFile(const PlayersFile& file, Sift sift) {
 
 void writePlayersFile(const PlayersFile& file, const Lines& lines) {
   ScrambledWriter writer(pathOf(file));
-  for (const std::string& line : lines) writeLine(ScrambledWriter::channel, line);
+  for (const std::string& line : lines) writeLine(playersChannel, line);
   writer.close();
 }
 

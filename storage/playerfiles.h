@@ -34,9 +34,6 @@ struct Sifted {
 // good.
 using Sift = Sifted (*)(const Lines& lines, const Lines& first, bool strict);
 
-// The channel on which all of them are read.
-inline constexpr i16 playersChannel = 4;
-
 // A text as a field of these files can hold it, and as it comes back when read: a comma becomes a
 // semicolon, a double quote an apostrophe, a control character a blank, and at its ends it has no
 // blanks. What is longer than longestStoredText is cut off.

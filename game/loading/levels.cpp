@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "game/model/model.h"
 #include "present/effects/ticker.h"
+#include "storage/files/channels.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -10,7 +11,6 @@
 namespace glonks {
 namespace {
 
-constexpr i16 levelChannel = 4;
 using Small = std::numeric_limits<i16>;
 
 i16 rounded(const std::string& fieldName, double number) {

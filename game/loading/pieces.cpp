@@ -2,6 +2,7 @@
 
 #include "game/model/model.h"
 #include "present/screen/keyedpicture.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/scrambledfiles.h"
@@ -10,7 +11,6 @@
 namespace glonks {
 namespace {
 
-constexpr i16 pieceChannel = 3;
 constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
 
 // Reads the fields in the order of the file. Returns the picture's name.
