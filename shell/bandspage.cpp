@@ -2,10 +2,9 @@
 
 #include "base/errors.h"
 #include "base/growinglist.h"
-#include "base/text.h"
-#include "shell/links.h"
 #include "shell/menucontrols.h"
 #include "shell/pages.h"
+#include "shell/toolkit/toolkit.h"
 #include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/log.h"
@@ -39,7 +38,7 @@ void readBands() {
   try {
     fillBands();
   } catch (const RuntimeError& error) {
-    logStep("error " + plainNumber(error.number()) + ", " + error.what());
+    logStep("error " + numberAndText(error));
     forgetBands();
   }
   for (const std::string& name : bandNames) addItem(allBands, name);
