@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string news;  // of files that were replaced; the player has not been told yet
+std::string news;  // of files that were replaced; the player doesn't know yet
 
 Lines linesOf(const std::string& path) {
   Lines lines;
@@ -74,7 +74,7 @@ void addNews(const PlayersFile& file, const std::string& fate) {
 
 std::string fateOfDamaged(const PlayersFile& file, const Sifted& sifted, const std::string& aside) {
   const bool none = sifted.kept == 0;
-  return "is damaged.  It is put aside as \"" + aside + "\".  " +
+  return "is damaged.  It has been put aside as \"" + aside + "\".  " +
          (none ? "None" : plainNumber(sifted.kept)) + " of its " +
          plainNumber(sifted.kept + sifted.lost) + " " + file.parts + " could be read" +
          (none ? ".  A new one was made with what" : " and kept.  The others are those that") +
