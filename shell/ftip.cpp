@@ -5,7 +5,6 @@
 
 #include "base/clock.h"
 #include "base/errors.h"
-#include "base/growinglist.h"
 #include "base/random.h"
 #include "shell/fmain.h"
 #include "shell/menucontrols.h"
@@ -32,11 +31,10 @@ void layOut() {
 // The lines of the file of tips, none if it can't be read: a game needs no tip.
 std::vector<std::string> readTips() {
   std::vector<std::string> tips;
-  i16 tipsUpper = -1;
   try {
     ScrambledReader file(tipsPath, tipChannel);
     rtcRandomize(clockSeed());
-    while (!endOfFile(tipChannel)) grow(tips, tipsUpper) = readLine(tipChannel);
+    while (!endOfFile(tipChannel)) tips.push_back(readLine(tipChannel));
     file.close();
   } catch (const RuntimeError&) {
     return {};

@@ -62,8 +62,8 @@ std::string pathOfLevel() {
   return "\\levels\\" + plainNumber(file);
 }
 
-// Whether the level's file can be read; the player is told if not. Looked at before the screen is
-// taken.
+// Whether the level's file can be read; the player sees a message if not. Looked at before the
+// screen is taken.
 bool levelReadable() {
   return succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
 }
