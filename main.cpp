@@ -44,15 +44,19 @@ void endByTheSystem() {
 
 // The end of a run that failed: one line in the log, what the player has earned stored, the screen
 // given back, one message.
-void endFailedRun(const std::string& logged, const std::string& shown) {
-  logStep("error " + logged);
+void endFailedRun(const std::exception& error, const std::string& shown) {
+  logStep("error " + numberAndText(error));
   storeAtOnce();
   if (fConsole.hWnd != 0) {
     gameOver = True;
     destroy();
   }
   closeLog();
-  messageBox(shown);
+  try {
+    messageBox(shown);
+  } catch (const std::exception&) {
+    // Nothing is left that could show or log it.
+  }
 }
 
 }  // namespace
@@ -68,9 +72,9 @@ int main() {
     runEvents();
     return 0;
   } catch (const RuntimeError& error) {
-    endFailedRun(plainNumber(error.number()) + ", " + error.what(), error.what());
+    endFailedRun(error, error.what());
   } catch (const std::exception& error) {
-    endFailedRun(error.what(), std::string("Glonks has to end: ") + error.what());
+    endFailedRun(error, std::string("Glonks has to end: ") + error.what());
   }
   return 1;
 }

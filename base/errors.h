@@ -3,7 +3,6 @@
 #include <exception>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace glonks {
 
@@ -16,7 +15,7 @@ enum class ErrorNumber {
   channelUse = 52,     // a channel that isn't open, or open already
   fileNotFound = 53,   // no such file
   inputPastEnd = 62,   // a file that is shorter than its reader needs
-  fileAccess = 75,     // a file that can't be opened, read, written, replaced or deleted now
+  fileAccess = 75,     // a file that can't be opened, read, written or replaced now
   badFile = 321,       // a file whose bytes aren't of the kind expected
   serviceFailed = 429  // screen, keyboard or font couldn't be had
 };

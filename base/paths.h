@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 #include <string_view>
 
 // The program's folder, and the one way from the paths that the game uses to those of the system.
@@ -12,8 +11,8 @@ void setProgramFolder(std::filesystem::path folder);
 const std::filesystem::path& programFolder();
 
 // The system's path of a game path. One that begins with a backslash ("\init\6095") lies under the
-// program's folder, its backslashes parting the folders and its text in Windows-1252; any other is
-// taken as it stands.
+// program's folder, its backslashes separating the folders and its text in Windows-1252; any other
+// is taken as it stands.
 std::filesystem::path nativePath(std::string_view path);
 
 // Whether there is a file of stored bytes at a path of the system, or a link to one: no folder,

@@ -1,8 +1,6 @@
 #include "base/text.h"
 
 #include <array>
-#include <cctype>
-#include <limits>
 #include <locale>
 #include <sstream>
 
@@ -133,7 +131,7 @@ double leadingNumber(std::string_view text) {
   std::istringstream number(std::string(text.substr(from, end - from)));
   number.imbue(std::locale::classic());
   double value = 0;
-  number >> value;  // out of range gives the largest double
+  number >> value;  // the largest double if out of range
   return value;
 }
 

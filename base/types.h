@@ -20,8 +20,9 @@ inline constexpr Flag True = -1;
 
 constexpr Flag flagOf(bool condition) { return condition ? True : False; }
 
-// Rounds to the nearest integer, halves to the even neighbour: 2.5 gives 2, 3.5 gives 4. The only
-// rounding in the program. Done by hand, so that no floating-point mode of a library can change it.
+// Rounds to the nearest integer, halves to the even neighbour: 2.5 becomes 2, 3.5 becomes 4. The
+// only rounding in the program. Done by hand, so that no floating-point mode of a library can
+// change it.
 inline double roundHalfEven(double number) {
   const double below = std::floor(number);
   const double rest = number - below;

@@ -41,6 +41,14 @@ const Mode table[] = {
 
 }  // namespace
 
+std::vector<Mode> offeredModes() {
+  std::vector<Mode> offered;
+  for (const Mode& mode : table) {
+    if (!mode.modeDescription.empty()) offered.push_back(mode);
+  }
+  return offered;
+}
+
 Mode modeTitled(const std::string& title) {
   for (const Mode& mode : table) {
     if (mode.modeTitle == title) return mode;

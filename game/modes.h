@@ -5,11 +5,15 @@
 
 #include "game/model/mode.h"
 
-// The table of modes: a row for each, which menu, loading, drawing and keys look at.
+// The table of modes: a row for each, which menu, loading and drawing look at. The Play button
+// takes from it whether item keys work (see modeName in game/model/model.h).
 namespace glonks {
 
-inline std::vector<Mode> modes;  // those that can be picked, and free slots, whose titles are empty
+inline std::vector<Mode> modes;  // those offered, and free slots, whose titles are empty
 inline i16 modesUpper = -1;      // upper bound of `modes`
+
+// The rows that the page New Game offers, in its order: those with a description.
+std::vector<Mode> offeredModes();
 
 // The row of a title; one without title and loop if there is none.
 Mode modeTitled(const std::string& title);

@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QImage>
 #include <QListWidget>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -17,7 +16,7 @@
 namespace glonks {
 namespace {
 
-// Logical pixels.
+// Logical pixels, as all lengths here and in the chapters.
 constexpr int windowWidth = 760;
 constexpr int windowHeight = 560;
 constexpr int contentsWidth = 185;
@@ -46,36 +45,26 @@ constexpr Chapter chapters[] = {
 };
 
 constexpr char textStyle[] = R"(
-h1 { color: #f0a93b; font-size: {20}px; }
-h2 { color: #cfe0ff; font-size: {15}px; margin-top: {14}px; }
+h1 { color: #f0a93b; font-size: 20px; }
+h2 { color: #cfe0ff; font-size: 15px; margin-top: 14px; }
 a { color: #8fb4ff; }
-td, th { padding: {3}px {8}px {3}px 0px; vertical-align: middle; }
+td, th { padding: 3px 8px 3px 0px; vertical-align: middle; }
 th { color: #f0a93b; text-align: left; }
 )";
 
-// Lengths in curly brackets are logical pixels.
-QString enlarged(QString text) {
-  static const QRegularExpression length("\\{(\\d+)\\}");
-  for (auto match = length.match(text); match.hasMatch(); match = length.match(text)) {
-    text.replace(match.capturedStart(), match.capturedLength(),
-                 QString::number(match.captured(1).toInt() * scaleFactor()));
-  }
-  return text;
-}
-
 QString chapterText(const Chapter& chapter) {
   QFile file(QString(":/manual/text/") + chapter.file + ".html");
-  return file.open(QIODevice::ReadOnly) ? enlarged(QString::fromUtf8(file.readAll())) : QString();
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-// The text of a chapter. A picture's name may end in "?" and the width in pixels to show it at.
+// The text of a chapter. A picture's name ends in "?" and the width to show it at.
 class ChapterView : public QTextBrowser {
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
     if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
     // Scaled in full colour: a picture with a palette would be dithered back to it.
     const QImage picture = QImage(":/manual/" + name.path()).convertToFormat(QImage::Format_ARGB32);
-    return picture.scaledToWidth(name.query().toInt(), Qt::SmoothTransformation);
+    return picture.scaledToWidth(name.query().toInt() * scaleFactor(), Qt::SmoothTransformation);
   }
 };
 

@@ -2,10 +2,10 @@
 
 #include "base/errors.h"
 #include "base/growinglist.h"
-#include "base/text.h"
-#include "shell/links.h"
 #include "shell/menucontrols.h"
 #include "shell/pages.h"
+#include "shell/toolkit/toolkit.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/log.h"
 #include "storage/files/scrambledfiles.h"
@@ -13,8 +13,6 @@
 
 namespace glonks {
 namespace {
-
-constexpr i16 bandsChannel = 4;
 
 void fillBands() {
   ScrambledReader file(bandsPath, bandsChannel);
@@ -40,7 +38,7 @@ void readBands() {
   try {
     fillBands();
   } catch (const RuntimeError& error) {
-    logStep("error " + plainNumber(error.number()) + ", " + error.what());
+    logStep("error " + numberAndText(error));
     forgetBands();
   }
   for (const std::string& name : bandNames) addItem(allBands, name);

@@ -1,5 +1,7 @@
 #include "shell/fmain.h"
 
+#include <string>
+
 #include "base/clock.h"
 #include "base/random.h"
 #include "game/model/model.h"

@@ -1,8 +1,16 @@
 #include "shell/fsplash.h"
 
-#include "shell/links.h"
+#include <string>
+
+#include "shell/toolkit/toolkit.h"
 
 namespace glonks {
+namespace {
+
+// Where the game's makers can be found.
+const std::string makersAddress = "https://glonks.example/";
+
+}  // namespace
 
 void fSplash_Form_Load() {
   setInside(fSplash, "about", 3765, 4500, fSplash_background, ":/forms/about.png");

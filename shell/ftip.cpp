@@ -5,12 +5,12 @@
 
 #include "base/clock.h"
 #include "base/errors.h"
-#include "base/growinglist.h"
 #include "base/random.h"
 #include "shell/fmain.h"
 #include "shell/menucontrols.h"
 #include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -18,7 +18,6 @@
 namespace glonks {
 namespace {
 
-constexpr i16 tipChannel = 7;
 constexpr i32 tipFont = 195;  // twips
 const std::string greeting = "Welcome to Glonks!  Have a good game.";
 
@@ -32,11 +31,10 @@ void layOut() {
 // The lines of the file of tips, none if it can't be read: a game needs no tip.
 std::vector<std::string> readTips() {
   std::vector<std::string> tips;
-  i16 tipsUpper = -1;
   try {
     ScrambledReader file(tipsPath, tipChannel);
     rtcRandomize(clockSeed());
-    while (!endOfFile(tipChannel)) grow(tips, tipsUpper) = readLine(tipChannel);
+    while (!endOfFile(tipChannel)) tips.push_back(readLine(tipChannel));
     file.close();
   } catch (const RuntimeError&) {
     return {};

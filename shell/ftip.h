@@ -12,7 +12,7 @@ inline Image fTip_background;
 inline TextBox tip;
 
 // A line of the file of tips, all equally likely, or a greeting if none can be read. Seeds the
-// random generator from the clock.
+// random generator from the clock, except if the file can't be opened.
 std::string pickTip();
 
 // Start of the program: makes the key tables before anything else touches the random generator,

@@ -18,14 +18,11 @@ void mNew_Click() { showPage(newGamePage); }
 void Image6_Click() { mNew_Click(); }
 
 void popModes() {
-  modesUpper = 3;  // the last slot is free
-  modes.resize(static_cast<std::size_t>(modesUpper) + 1);
+  modes = offeredModes();
   clearItems(tMode);
-  std::size_t slot = 0;
-  for (const char* title : {"Freestyle", "Arcade", "B-Type"}) {
-    modes[slot] = modeTitled(title);
-    addItem(tMode, modes[slot++].modeTitle);
-  }
+  for (const Mode& mode : modes) addItem(tMode, mode.modeTitle);
+  modes.emplace_back();  // a free slot
+  modesUpper = static_cast<i16>(modes.size() - 1);
   clearItems(scoreModes);
   for (const Mode& mode : modes) {
     if (mode.scoreTable == True) addItem(scoreModes, mode.modeTitle);
@@ -35,10 +32,8 @@ void popModes() {
 
 void tMode_Click() {
   clearItems(tLevels);
-  for (const Mode& mode : modes) {
-    if (mode.modeTitle == textOf(tMode)) tModeDesc.caption = mode.modeDescription;
-  }
   const Mode mode = modeTitled(textOf(tMode));
+  tModeDesc.caption = mode.modeDescription;
   for (const std::string& item : mode.levelItems) addItem(tLevels, item);
   if (mode.hasGoals == True) {
     succeeds(readOpenLevels);

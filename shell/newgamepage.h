@@ -10,12 +10,12 @@ void Image6_Click();  // the title page's button, to this page
 void popModes();
 
 // A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels;
-// where that fails the player is told, and the list shows those that are known.
+// where that fails the player sees a message, and the list shows those that are known.
 void tMode_Click();
 
 // Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
-// stores it, so that it lasts whatever ends the program now, and tells the player. It stays open
-// also if it can't be stored.
+// stores it, so that it lasts whatever ends the program now, and congratulates the player. It stays
+// open also if it can't be stored.
 void awardLevel();
 
 // Adds that level to tLevels, without a word; saves store it from now on. False if it is there

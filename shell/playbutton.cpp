@@ -23,6 +23,7 @@
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
+#include "storage/files/channels.h"
 #include "storage/files/scrambledfiles.h"
 
 namespace glonks {
@@ -61,10 +62,9 @@ std::string pathOfLevel() {
   return "\\levels\\" + plainNumber(file);
 }
 
-// Whether the level's file can be read; the player is told if not. Looked at before the screen is
-// taken.
+// Whether the level's file can be read; the player sees a message if not. Looked at before the
+// screen is taken.
 bool levelReadable() {
-  constexpr i16 levelChannel = 4;
   return succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
 }
 

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/errors.h"
-#include "base/text.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
 #include "storage/progress.h"
@@ -31,8 +30,8 @@ Stored& entryOf(const PlayersFile& file) {
   throw RuntimeError(ErrorNumber::badCall, "A file of the player has no place among those stored.");
 }
 
-void logFailure(const RuntimeError& error) {
-  logStep("error " + plainNumber(error.number()) + ", " + error.what());
+void logNotStored(const Stored& stored, const std::exception& error) {
+  logStep("error " + numberAndText(error) + " Not stored: " + stored.file.holds + ".");
 }
 
 // Whether the player wants it tried again.
@@ -49,7 +48,7 @@ void attempt(Stored& stored) {
       return;
     } catch (const RuntimeError& error) {
       if (askAgain(stored, error)) continue;
-      logFailure(error);
+      logNotStored(stored, error);
       stored.givenUp = true;
       return;
     }
@@ -81,7 +80,7 @@ void saveSilently() {
       stored.write();
       stored.owed = false;
     } catch (const std::exception& error) {
-      logStep("error not stored: " + std::string(stored.file.holds) + ": " + error.what());
+      logNotStored(stored, error);
     }
   }
 }
@@ -96,7 +95,7 @@ bool succeeds(const std::function<void()>& action) {
     action();
     return true;
   } catch (const RuntimeError& error) {
-    logFailure(error);
+    logStep("error " + numberAndText(error));
     messageBox(error.what());
     return false;
   }

@@ -13,22 +13,22 @@ namespace glonks {
 void owe(const PlayersFile& file);
 bool isOwed(const PlayersFile& file);
 
-// Stores one file. When that fails, the player is told and may have it tried again; if not, a line
-// goes to the log and the file stays owed.
+// Stores one file. When that fails, the player may have it tried again; if not, a line goes to the
+// log and the file stays owed.
 void save(const PlayersFile& file);
 
-// The same for all files that are owed, but for those that the player has given up since the last
+// The same for all files that are owed, except those that the player has given up since the last
 // call.
 void saveAll();
 
 // Stores all files that are owed and asks nothing; a failure goes to the log.
 void saveSilently();
 
-// Tells the player, in one message, about all files that were replaced since the last call.
+// Informs the player, in one message, about all files that were replaced since the last call.
 void tellOfNewFiles();
 
-// Runs an action that may fail: then a line goes to the log, the player is told, and it returns
-// false.
+// Runs an action that may fail: then a line goes to the log, the player sees a message, and it
+// returns false.
 bool succeeds(const std::function<void()>& action);
 
 }  // namespace glonks

@@ -14,8 +14,7 @@ namespace glonks {
 namespace {
 
 void showCount(i16 slot) {
-  const auto i = static_cast<std::size_t>(slot);
-  tpurchase[i].caption = plainNumber(itemStock[i]);
+  tpurchase[static_cast<std::size_t>(slot)].caption = plainNumber(stockOf(slot));
 }
 
 void showBank() { tBank.caption = plainNumber(bank); }
@@ -44,7 +43,7 @@ void showStock() {
 
 void purchase_Click(i16 Index) {
   const StoreItem& item = storeItems[static_cast<std::size_t>(Index)];
-  i16& stock = itemStock[static_cast<std::size_t>(Index)];
+  i16& stock = stockOf(Index);
   const std::string words = item.words;
   if (item.onSale == False) {
     messageBox("You can't buy " + words + " yet.  Please choose another item.");

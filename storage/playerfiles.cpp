@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "storage/files/channels.h"
 #include "storage/files/salvage.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
@@ -16,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string news;  // of files that were replaced; the player has not been told yet
+std::string news;  // of files that were replaced; the player doesn't know yet
 
 Lines linesOf(const std::string& path) {
   Lines lines;
@@ -73,7 +74,7 @@ void addNews(const PlayersFile& file, const std::string& fate) {
 
 std::string fateOfDamaged(const PlayersFile& file, const Sifted& sifted, const std::string& aside) {
   const bool none = sifted.kept == 0;
-  return "is damaged.  It is put aside as \"" + aside + "\".  " +
+  return "is damaged.  It has been put aside as \"" + aside + "\".  " +
          (none ? "None" : plainNumber(sifted.kept)) + " of its " +
          plainNumber(sifted.kept + sifted.lost) + " " + file.parts + " could be read" +
          (none ? ".  A new one was made with what" : " and kept.  The others are those that") +
@@ -150,7 +151,7 @@ Lines readPlayersFile(const PlayersFile& file, Sift sift) {
 
 void writePlayersFile(const PlayersFile& file, const Lines& lines) {
   ScrambledWriter writer(pathOf(file));
-  for (const std::string& line : lines) writeLine(ScrambledWriter::channel, line);
+  for (const std::string& line : lines) writeLine(playersChannel, line);
   writer.close();
 }
 

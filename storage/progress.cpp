@@ -1,7 +1,6 @@
 #include "storage/progress.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "base/text.h"
 #include "storage/playerfiles.h"
@@ -34,11 +33,10 @@ Sifted siftLevels(const Lines& lines, const Lines& first, bool strict) {
 }  // namespace
 
 void readOpenLevels() {
-  using Whole = std::numeric_limits<i32>;
   const Lines lines = readPlayersFile(levelsFile, siftLevels);
   openLevels.clear();
   for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
-    openLevels.push_back({lines[i], storedNumber(lines[i + 1], Whole::min(), Whole::max())});
+    openLevels.push_back({lines[i], storedNumber(lines[i + 1])});
   }
   openLevels.insert(openLevels.end(), newLevels.begin(), newLevels.end());
 }

@@ -1,7 +1,6 @@
 #include "storage/scores.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "base/text.h"
 #include "storage/playerfiles.h"
@@ -9,10 +8,7 @@
 namespace glonks {
 namespace {
 
-i32 pointsOf(const std::string& line) {
-  using Points = std::numeric_limits<i32>;
-  return storedNumber(fieldOf(line, 0), Points::min(), Points::max());
-}
+i32 pointsOf(const std::string& line) { return storedNumber(fieldOf(line, 0)); }
 
 // Puts beginners' scores, the lowest first, in the place of those that are lost.
 void fillTable(Lines& table, const Lines& first) {

@@ -55,9 +55,7 @@ void readStore() {
   const Lines lines = readPlayersFile(storeFile, siftValues);
   Values values(lines);
   bank = values.from0<i16>();
-  for (const i16 item : storedOrder) {
-    itemStock[static_cast<std::size_t>(item)] = values.from0<i16>();
-  }
+  for (const i16 item : storedOrder) stockOf(item) = values.from0<i16>();
   for (Flag* flag : {&storeFlagA, &storeFlagB, &storeFlagC}) *flag = values.flag();
   notesCollected = values.from0<i32>();
   themeName = storableText(values.text());
@@ -66,9 +64,7 @@ void readStore() {
 
 void writeStore() {
   Lines lines = {plainNumber(bank)};
-  for (const i16 item : storedOrder) {
-    lines.push_back(plainNumber(itemStock[static_cast<std::size_t>(item)]));
-  }
+  for (const i16 item : storedOrder) lines.push_back(plainNumber(stockOf(item)));
   lines.insert(lines.end(), {flagText(storeFlagA), flagText(storeFlagB), flagText(storeFlagC),
                              plainNumber(notesCollected), themeName, plainNumber(musicVolume)});
   writePlayersFile(storeFile, lines);

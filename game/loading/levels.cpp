@@ -3,14 +3,13 @@
 #include "base/text.h"
 #include "game/model/model.h"
 #include "present/effects/ticker.h"
+#include "storage/files/channels.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
 
 namespace glonks {
 namespace {
-
-constexpr i16 levelChannel = 4;
 
 // Minutes are held one less than the file says: the countdown begins at 59 seconds.
 i16 readMinutes(const std::string& fieldName) {

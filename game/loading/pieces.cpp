@@ -3,6 +3,7 @@
 #include "game/model/model.h"
 #include "game/model/piecefields.h"
 #include "present/screen/keyedpicture.h"
+#include "storage/files/channels.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/scrambledfiles.h"
@@ -11,7 +12,6 @@
 namespace glonks {
 namespace {
 
-constexpr i16 pieceChannel = 3;
 constexpr i16 lastPieceSlot = pieceFileIds.size() - 1;
 
 // Returns the picture's name.

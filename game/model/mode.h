@@ -13,7 +13,7 @@ enum class Counter { none, stock, pieces };
 
 struct Mode {
   std::string modeTitle = {};                // name in the combo tMode
-  std::string modeDescription = {};          // text for tModeDesc
+  std::string modeDescription = {};          // text for tModeDesc; empty: not offered
   std::vector<std::string> levelItems = {};  // what tLevels shows; empty: the open Arcade levels
   std::string framePicture = {};             // name in "\images\"; empty leaves the frame as it is
   void (*loop)() = nullptr;                  // plays one game; nullptr: can't be played yet

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "base/types.h"
-#include "shell/toolkit/twips.h"
 
 // The controls of the menu's windows as plain data. The toolkit mirrors them on the screen; without
 // a screen they work just the same. Lengths are twips, 15 to a logical pixel. Texts are
@@ -88,8 +87,8 @@ struct Menu {
   std::vector<MenuEntry> entries;
 };
 
-// A window: its inside in twips, its controls from back to front, and what runs when the player
-// closes it, instead of closing it. Without an `unload`, Escape closes it too. It opens in the
+// A window: its inside in twips, and its controls from back to front. When the player closes it,
+// `unload` runs and the window stays; without an `unload` it closes, by Escape too. It opens in the
 // centre of the screen and can't be maximised.
 struct Form {
   std::string caption;

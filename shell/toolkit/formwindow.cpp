@@ -1,6 +1,5 @@
 #include "shell/toolkit/formwindow.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>

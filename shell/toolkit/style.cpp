@@ -8,7 +8,6 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "shell/toolkit/twips.h"
 
 namespace glonks {
 namespace {
@@ -17,6 +16,7 @@ constexpr int windowHeight = 345;      // logical pixels of the main window, whi
 constexpr double shareOfScreen = 0.8;  // of the screen's height, that a window may take
 constexpr int fontHeight = 11;         // logical pixels
 constexpr int largestFactor = 4;
+constexpr i32 twipsPerPixel = 15;  // logical pixels
 
 int factor = 1;
 
@@ -109,18 +109,6 @@ int factorFor(const QScreen* screen) {
   return std::clamp(static_cast<int>(room / windowHeight), 1, largestFactor);
 }
 
-// The sheet with every length multiplied by the factor.
-QString enlarged(QString sheet) {
-  static const QRegularExpression length("(\\d+)px");
-  QRegularExpressionMatch match = length.match(sheet);
-  while (match.hasMatch()) {
-    const QString larger = QString::number(match.captured(1).toInt() * factor) + "px";
-    sheet.replace(match.capturedStart(), match.capturedLength(), larger);
-    match = length.match(sheet, match.capturedStart() + larger.length());
-  }
-  return sheet;
-}
-
 QFont baseFont() {
   QFont font;
   font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans", "sans-serif"});
@@ -158,6 +146,17 @@ void applyStyle(QApplication& application, int newFactor) {
 }
 
 int scaleFactor() { return factor; }
+
+QString enlarged(QString sheet) {
+  static const QRegularExpression length("(\\d+)px");
+  QRegularExpressionMatch match = length.match(sheet);
+  while (match.hasMatch()) {
+    const QString larger = QString::number(match.captured(1).toInt() * factor) + "px";
+    sheet.replace(match.capturedStart(), match.capturedLength(), larger);
+    match = length.match(sheet, match.capturedStart() + larger.length());
+  }
+  return sheet;
+}
 
 int pixels(i32 twips) {
   return static_cast<int>(std::lround(static_cast<double>(twips) * factor / twipsPerPixel));

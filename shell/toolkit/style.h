@@ -18,6 +18,9 @@ void applyStyle(QApplication& application, int newFactor = fittingFactor());
 // The whole factor by which windows, fonts and all else are enlarged.
 int scaleFactor();
 
+// A style sheet with each length in "px" multiplied by that factor.
+QString enlarged(QString sheet);
+
 // A length in twips as screen pixels.
 int pixels(i32 twips);
 

@@ -8,7 +8,6 @@
 #include <QUrl>
 #include <clocale>
 #include <map>
-#include <utility>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -125,7 +124,7 @@ void letFormMessagesThrough() {
   raiseKept();
 }
 
-void openBySystem(const std::string& address) {
+void openLink(const std::string& address) {
   QDesktopServices::openUrl(QUrl::fromUserInput(shownText(address)));
 }
 

@@ -6,8 +6,8 @@
 #include "base/types.h"
 #include "shell/toolkit/controls.h"
 
-// Windows, dialogs and the event loop. Handlers of controls run inside runEvents or
-// letFormMessagesThrough; what a handler raises comes out of there.
+// Windows, dialogs and the event loop. Handlers of controls run inside runEvents,
+// letFormMessagesThrough and the dialogs; what a handler raises comes out of there.
 namespace glonks {
 
 // Makes the toolkit ready; first call of the program. Without a display, ends the program with a
@@ -29,15 +29,16 @@ void endProgram();
 // Handles all events that are waiting for forms.
 void letFormMessagesThrough();
 
-// Asks the system to open an address, a web address in the player's browser. Doesn't wait.
-void openBySystem(const std::string& address);
+// Asks the system to open an address, a web address in the player's browser. Doesn't wait, and
+// reports nothing if that fails.
+void openLink(const std::string& address);
 
 // Starts a program file as a process of its own, which outlives this one, in its own folder.
 // Doesn't wait. False if it can't be started.
 bool startProgram(const std::string& path);
 
 // Dialogs, in front of all the program's windows. Enter presses their first button, Escape their
-// last.
+// last. Events are handled while they stand, so they may raise what a handler has raised.
 
 // A text with an OK button.
 void messageBox(const std::string& text);

@@ -6,6 +6,7 @@
 #include "base/errors.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "storage/files/channels.h"
 #include "storage/files/scrambledfiles.h"
 #include "storage/files/textchannels.h"
 
@@ -14,9 +15,8 @@ namespace {
 
 using Groups = std::vector<i16>;
 
-constexpr i16 salvageChannel = 24;
 constexpr i32 keyPositions = keyALength * keyBLength;
-constexpr i32 reach = 128;  // groups that may be lost in one place, or have come in
+constexpr i32 reach = 128;  // groups that may have been lost or added in one place
 
 // A key position is judged by so many characters from there on. Fewer than the least ones may look
 // right by chance.
@@ -76,11 +76,11 @@ i32 bestPosition(const std::vector<Groups>& lines, std::size_t first, i32 expect
 // A line that is too long counts as one damaged group.
 std::vector<Groups> readGroups(const std::string& path) {
   std::vector<Groups> lines;
-  openChannel(salvageChannel, path, ChannelMode::input);
-  const ChannelGuard guard(salvageChannel);
-  while (!endOfFile(salvageChannel)) {
+  openChannel(sourceChannel, path, ChannelMode::input);
+  const ChannelGuard guard(sourceChannel);
+  while (!endOfFile(sourceChannel)) {
     try {
-      lines.push_back(groupsOf(readLine(salvageChannel)));
+      lines.push_back(groupsOf(readLine(sourceChannel)));
     } catch (const RuntimeError& error) {
       if (error.number() != static_cast<int>(ErrorNumber::badFile)) throw;
       lines.push_back({damagedGroup});

@@ -1,19 +1,20 @@
 #include "storage/files/scrambledfiles.h"
 
+#include <charconv>
 #include <cmath>
 #include <filesystem>
+#include <string_view>
 
 #include "base/errors.h"
 #include "base/paths.h"
 #include "base/random.h"
 #include "base/text.h"
+#include "storage/files/channels.h"
 #include "storage/files/textchannels.h"
 
 namespace glonks {
 namespace {
 
-constexpr i16 sourceChannel = 24;
-constexpr i16 targetChannel = 25;
 constexpr int codes = 256;
 
 i16 drawKey(i16 drawArgument, i16 scale) {
@@ -25,18 +26,20 @@ int keySum() { return keyA[keyIndexA] + keyB[keyIndexB]; }
 
 int code(char c) { return static_cast<unsigned char>(c); }
 
-// Where the line at work stands, for errors.
-std::string place;
-
+// What is wrong with a line; changeFile says in which file and where.
 [[noreturn]] void failLine(const std::string& trouble) {
-  throw RuntimeError(ErrorNumber::badFile, place + " " + trouble);
+  throw RuntimeError(ErrorNumber::badFile, trouble);
 }
 
-bool isDigits(const std::string& text) {
-  return text.find_first_not_of("0123456789") == std::string::npos;
+i16 groupOf(std::string_view digits) {
+  std::uint8_t number = 0;  // stays so without digits
+  const char* const end = digits.data() + digits.size();
+  const auto [rest, error] = std::from_chars(digits.data(), end, number);
+  return rest == end && error != std::errc::result_out_of_range ? number : damagedGroup;
 }
 
-// Writes each line of the source, changed by `change`, to the target.
+// Writes each line of the source, changed by `change`, to the target. What `change` raises tells
+// only the trouble with its line.
 template <typename Change>
 void changeFile(const std::string& source, const std::string& target, ChannelMode targetMode,
                 Change change) {
@@ -49,9 +52,16 @@ void changeFile(const std::string& source, const std::string& target, ChannelMod
   const ChannelGuard targetGuard(targetChannel);
   for (i32 number = 1; !endOfFile(sourceChannel); ++number) {
     const std::string line = readLine(sourceChannel);
-    place = "The file \"" + shown + "\" is damaged: line " + plainNumber(number);
-    const std::string changed = change(line);
-    if (changed.size() > longestLine) failLine("is longer than 32,767 characters.");
+    std::string changed;
+    try {
+      changed = change(line);
+      if (changed.size() > longestLine) {
+        failLine("is longer than " + plainNumber(longestLine) + " characters.");
+      }
+    } catch (const RuntimeError& error) {
+      throw RuntimeError(ErrorNumber::badFile, "The file \"" + shown + "\" is damaged: line " +
+                                                   plainNumber(number) + " " + error.what());
+    }
     writeLine(targetChannel, changed);
   }
   closeChannel(sourceChannel);
@@ -94,12 +104,11 @@ std::vector<i16> groupsOf(const std::string& scrambled) {
   std::vector<i16> groups;
   std::size_t from = 0;
   for (std::size_t end = 0; (end = scrambled.find('.', from)) != std::string::npos;) {
-    const std::string group = scrambled.substr(from, end - from);
-    const double number = isDigits(group) ? leadingNumber(group) : codes;
-    groups.push_back(number < codes ? static_cast<i16>(number) : damagedGroup);
+    groups.push_back(groupOf(std::string_view(scrambled).substr(from, end - from)));
     from = end + 1;
   }
-  if (!isDigits(scrambled.substr(from))) groups.push_back(damagedGroup);
+  const bool isDigits = scrambled.find_first_not_of("0123456789", from) == std::string::npos;
+  if (!isDigits) groups.push_back(damagedGroup);
   return groups;
 }
 
@@ -152,13 +161,13 @@ void ScrambledReader::close() {
 }
 
 ScrambledWriter::ScrambledWriter(const std::string& scrambledPath) : scrambledPath_(scrambledPath) {
-  openChannel(channel, tempPath, ChannelMode::output, scrambledPath);
+  openChannel(playersChannel, tempPath, ChannelMode::output, scrambledPath);
 }
 
-ScrambledWriter::~ScrambledWriter() { abandonChannel(channel); }
+ScrambledWriter::~ScrambledWriter() { abandonChannel(playersChannel); }
 
 void ScrambledWriter::close() {
-  closeChannel(channel);
+  closeChannel(playersChannel);
   scrambleFile(tempPath, scrambledPath_);
   temp_.remove();
 }

@@ -52,21 +52,21 @@ char unscrambleChar(char c);
 // The groups of a scrambled line, from 0 to 255, an empty one as 0. What follows the last point is
 // dropped if it is digits, and a damaged group otherwise.
 std::vector<i16> groupsOf(const std::string& scrambled);
-inline constexpr i16 damagedGroup = -1;  // one that is no number from 0 to 255
+inline constexpr i16 damagedGroup = -1;  // one that isn't a number from 0 to 255
 
 // One line; the indices stay where its last character put them. unscrambleLine raises badFile for a
-// damaged group.
+// damaged group, and knows no file to name.
 std::string scrambleLine(const std::string& text);
 std::string unscrambleLine(const std::string& scrambled);
 
-// Whole files, on channels 24 and 25. scrambleFile puts the complete new file in the place of the
-// old one, which stands until then. Both raise fileNotFound or fileAccess for a file that can't be
-// opened, read or written, and badFile, naming the file, for one that is damaged or too large and
-// for a line that is too long. A plain line of 8,191 characters always fits.
+// Whole files, on sourceChannel and targetChannel. scrambleFile puts the complete new file in the
+// place of the old one, which stands until then. Both raise fileNotFound or fileAccess for a file
+// that can't be opened, read or written, and badFile, naming file and line, for one that is damaged
+// or too large and for a line that is too long. A plain line of 8,191 characters always fits.
 void scrambleFile(const std::string& plainPath, const std::string& scrambledPath);
 void unscrambleFile(const std::string& scrambledPath, const std::string& plainPath);
 
-// Deletes the temp file when it goes, or before. One that can't be deleted is reported to nobody:
+// Deletes the temp file on destruction, or before. One that can't be deleted is reported to nobody:
 // what was read or written is whole, and the next use replaces it.
 class TempFileGuard {
  public:
@@ -93,12 +93,11 @@ class ScrambledReader {
   i16 channel_;
 };
 
-// One writing of a scrambled file: the constructor opens the temp file for output on channel 4;
-// close() closes it, scrambles it over `scrambledPath` and deletes it. Without close(), the
-// scrambled file stays as it was.
+// One writing of a scrambled file: the constructor opens the temp file for output on
+// playersChannel; close() closes it, scrambles it over `scrambledPath` and deletes it. Without
+// close(), the scrambled file stays as it was.
 class ScrambledWriter {
  public:
-  static constexpr i16 channel = 4;
   explicit ScrambledWriter(const std::string& scrambledPath);
   ~ScrambledWriter();
   ScrambledWriter(const ScrambledWriter&) = delete;

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <map>
 #include <system_error>
+#include <utility>
 
 #include "base/errors.h"
 #include "base/paths.h"
@@ -85,7 +86,8 @@ void finishLineEnd(Channel& channel, int byte) {
 
 [[noreturn]] void failLong(const Channel& channel, i32 line) {
   fail(ErrorNumber::badFile, channel.name,
-       "is damaged: line " + std::to_string(line) + " is longer than 32,767 characters.");
+       "is damaged: line " + std::to_string(line) + " is longer than " +
+           std::to_string(longestLine) + " characters.");
 }
 
 bool isLineEnd(int byte) { return byte == '\n' || byte == '\r'; }
@@ -116,7 +118,7 @@ void flushFolder([[maybe_unused]] const fs::path& folder) {
 // Raises for a file that can't be read to its end: a device may have none, and opening a pipe waits
 // for whoever writes into it.
 void checkReadable(const fs::path& place, const std::string& name) {
-  std::error_code ignored;  // what hinders the look hinders the opening too
+  std::error_code ignored;  // whatever prevents this check prevents the opening too
   if (!fs::exists(place, ignored)) return;
   if (!isRegularFile(place)) {
     fail(ErrorNumber::fileAccess, name, "can't be opened (it is no regular file).");
@@ -234,7 +236,7 @@ void flushChannel(i16 channel) {
 void closeChannel(i16 channel) {
   const auto found = channels.find(channel);
   if (found == channels.end()) return;
-  const Channel closing = found->second;
+  const Channel closing = std::move(found->second);
   channels.erase(found);
 
   // A write that failed long ago still counts, also if the disk has room again.
@@ -261,7 +263,7 @@ void closeChannel(i16 channel) {
 void abandonChannel(i16 channel) {
   const auto found = channels.find(channel);
   if (found == channels.end()) return;
-  const Channel closing = found->second;
+  const Channel closing = std::move(found->second);  // in destructors: must not fail
   channels.erase(found);
   std::fclose(closing.file);
   std::error_code ignored;

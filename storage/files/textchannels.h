@@ -5,7 +5,8 @@
 #include "base/types.h"
 
 // Text files on numbered channels. A line ends at CR LF, LF or CR when read, and is written with
-// CR LF. Every failure raises a RuntimeError that names the file.
+// CR LF. Every failure raises a RuntimeError that names the file, or, for the wrong use of a
+// channel (channelUse), the channel.
 namespace glonks {
 
 // The most characters that a line or field may have.
@@ -60,7 +61,7 @@ void closeChannel(i16 channel);
 // Closes the channel, if it is open, and reports nothing; with mode `replace` the old file stays.
 void abandonChannel(i16 channel);
 
-// Abandons its channel when it goes, so that a reader or writer that fails leaves nothing open.
+// Abandons its channel on destruction, so that a reader or writer that fails leaves nothing open.
 class ChannelGuard {
  public:
   explicit ChannelGuard(i16 channel) : channel_(channel) {}

@@ -10,7 +10,7 @@ void showForm(Form& /*form*/, Handler /*load*/) {}
 void hideForm(Form& /*form*/) {}
 void runEvents() {}
 void endProgram() {}
-void openBySystem(const std::string& /*address*/) {}
+void openLink(const std::string& /*address*/) {}
 bool startProgram(const std::string& /*path*/) { return true; }
 void messageBox(const std::string& text) {
   fake::boxes.push_back(text);

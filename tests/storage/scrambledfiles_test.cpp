@@ -1,5 +1,6 @@
 #include "storage/files/scrambledfiles.h"
 
+#include "storage/files/channels.h"
 #include "storage/files/textchannels.h"
 #include "tests/tempfolder.h"
 
@@ -63,7 +64,7 @@ TEST_F(ScrambledFiles, DamageIsToldAndLeavesNothingLying) {
   errorOfTidy([] { ScrambledWriter writer(dataPath); });
   const std::string error = errorOfTidy([] {
     ScrambledWriter writer(dataPath);
-    writeLine(ScrambledWriter::channel, std::string(20000, 'x'));
+    writeLine(playersChannel, std::string(20000, 'x'));
     writer.close();
   });
   EXPECT_PRED2(holds, error, "\"" + dataPath + "\" is damaged: line 1 ");

@@ -60,7 +60,7 @@ TEST_F(TextChannels, OnlyRegularFilesOfBoundedSizeAreRead) {
   for (const auto read : {&readLine, &readField}) {
     EXPECT_EQ(readAll(most + "\nend", read), (Texts{most, "end"}));
     EXPECT_EQ(errorOf([&] { readAll("1\n" + most + "x", read); }),
-              "The file \"\\file\" is damaged: line 2 is longer than 32,767 characters.");
+              "The file \"\\file\" is damaged: line 2 is longer than 32767 characters.");
   }
 }
 
