@@ -30,17 +30,6 @@ class DataFilesTest : public EngineTest {
   }
 };
 
-TEST_F(DataFilesTest, NumbersAndFlagsAreTakenFromTheLeadingPartOfTheirFields) {
-  std::string plain = "Pin\n7\nnone\n";
-  for (i32 i = 0; i < 13; ++i) plain += i % 2 == 0 ? "0.5\n" : "no\n";
-  write("\\init\\1281", plain + "70002.5 points\n3.5\n-4\n-1\n");
-  const Piece piece = loadPiece("1281");
-  EXPECT_EQ((Numbers{piece.variety, piece.value, piece.timerMax, piece.timerMin}),
-            (Numbers{7, 70002, 4, -4}));
-  EXPECT_EQ((Numbers{piece.bombable, piece.spareFlagA, piece.spareFlagB, piece.isPin}),
-            (Numbers{True, False, True, True}));
-}
-
 TEST_F(DataFilesTest, BadFilesAreNamedWithTheirField) {
   const std::string cases[][3] = {
       {"levels\\7", "", "spawnInterval"},
@@ -57,8 +46,6 @@ TEST_F(DataFilesTest, BadFilesAreNamedWithTheirField) {
     EXPECT_TRUE(holds(error, path) && holds(error, " " + field + " ")) << plain << error;
     EXPECT_FALSE(exists("\\temp"));
   }
-  levelFrom("3600000", False);
-  EXPECT_EQ(spawnInterval, 3600000);
 }
 
 TEST_F(DataFilesTest, ArcadeLevelFillsEveryField) {

@@ -166,12 +166,10 @@ void startFromHere() {
 
 constexpr i32 never = 1000000000;
 
-constexpr i16 negativeImage = 19;
-
 std::string fallingText(const Piece& piece) {
   std::string all = letterOf(piece) + std::to_string(piece.column);
   if (piece.direction != 0) all += piece.direction == 1 ? "<" : ">";
-  if (piece.imageIndex == negativeImage) all += "#";
+  if (piece.imageIndex == negativeCalculatorSlot) all += "#";
   if (piece.isCalculator == True) all += "=" + std::to_string(piece.value);
   const bool runs = piece.expiry > 0 && piece.expiry != never;
   if (runs) all += "@" + std::to_string(piece.expiry - gameTick());
@@ -189,11 +187,6 @@ Words split(const std::string& all, char between) {
   std::istringstream text(all);
   for (std::string part; std::getline(text, part, between);) parts.push_back(part);
   return parts;
-}
-
-std::string trimmed(const std::string& all) {
-  const std::size_t first = all.find_first_not_of(' ');
-  return first == std::string::npos ? "" : all.substr(first, all.find_last_not_of(' ') - first + 1);
 }
 
 double drawOf(const std::string& draw) {

@@ -16,7 +16,6 @@
 #include "shell/toolkit/endsignals.h"
 #include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/style.h"
-#include "shell/toolkit/widgets.h"
 #include "tests/shell/later.h"
 #include "tests/tempfolder.h"
 
@@ -165,15 +164,6 @@ TEST(Store, NumbersAreShownWhole) {
     }
     shownWindow()->close();
   }
-}
-
-TEST_F(TempFolder, PicturesAreReadFromRegularFilesOnly) {
-  mkfifo((folder / "pipe").c_str(), 0600);
-  PictureView view(nullptr);
-  view.setFile(QString::fromStdString(folder / "pipe"));
-  alarm(20);  // a read of the pipe would wait without end
-  view.grab();
-  alarm(0);
 }
 
 TEST(Start, WithoutADisplayEndsWithASentenceAndNoArgumentGetsToQt) {

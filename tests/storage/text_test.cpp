@@ -12,12 +12,10 @@ TEST(Text, GoesToUtf8AndBack) {
   for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
   EXPECT_EQ(toUtf8(all.substr(0x80, 32)),
             "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ");
-  EXPECT_EQ(toUtf8("A~\n \xA0\xBF\xC0\xE9\xFF"), "A~\n \u00A0¿Àéÿ");
   EXPECT_EQ(fromUtf8(toUtf8(all)), all);
   // What the set doesn't have becomes a question mark.
   EXPECT_EQ(fromUtf8("aĀ漢😀\u0080z"), "a????z");
   EXPECT_EQ(fromUtf8("\x80\xFFz\xC3(\xE2\x82z\xE2\x82"), "??z?(??z??") << "nothing whole";
-  EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80z\xC1\xAF"), "?z?") << "too large, and too long a form";
 }
 
 struct DecimalComma : std::numpunct<char> {
