@@ -254,6 +254,7 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
 }
 
 TEST_F(PlayerData, AWonLevelIsStoredIfItsGameCantGoOn) {
+  setText(tMode, "Arcade");
   rewardLevelName = "Reward";
   rewardLevelFile = 77;
   gameMode = modeTitled("Arcade");
