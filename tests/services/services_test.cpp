@@ -68,7 +68,7 @@ TEST(Surface, BlitsStretchSmoothlyOrWithoutAFringe) {
   const Surface expected = plain(60, 80, blue);
   expected->BltColorFill({20, 40, 40, 80}, red);
   EXPECT_EQ(pixelsOf(target), pixelsOf(expected));
-  target->Blt({}, source, {}, bltOpaque);
+  target->Blt({0, 0, 60, 20}, source, {}, bltOpaque);
   EXPECT_TRUE(target->pixel(30, 0) != red && target->pixel(30, 0) != white) << "a hard step";
 }
 
