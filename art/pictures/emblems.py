@@ -8,10 +8,10 @@ def midnight(ctx):
     """A pin under the moon."""
     fill(ctx, circle(45, 45, 41), rgb("16234a"))
     stroke(ctx, circle(45, 45, 41), rgb("5d7fc4"), 3)
-    pieces.place(ctx, frames.moon, 42, 8, 38)
-    for x, y in ((20, 32), (30, 16), (74, 60), (16, 54)):
+    pieces.place(ctx, frames.moon, 43, 11, 36)
+    for x, y in ((20, 32), (30, 16), (74, 60), (13, 54)):
         fill(ctx, star(x, y, 4, 4.5, 1.6), rgb("fff6d0"))
-    pieces.place(ctx, frames.pin, 12, 18, 66)
+    pieces.place(ctx, pieces.pin, 9, 20, 60)
 
 
 def bonus_song(ctx):

@@ -33,14 +33,6 @@ def night_sky(ctx, rng, x, y, tint):
     fill(ctx, star(x, y, 4, rng.uniform(3, 9), 1.2), tint, rng.uniform(.25, .6))
 
 
-def pin(ctx):
-    """A bowling pin on the 90x90 of a piece."""
-    body = polygon([(38, 4), (52, 4), (55, 18), (51, 32), (61, 54), (58, 86), (32, 86), (29, 54), (39, 32), (35, 18)], 9)
-    sloped(ctx, body, rgb("f4efe4"), rgb("8d86a0"), 3.2, rgb("120c24"))
-    for y in (26, 33):
-        stroke(ctx, line((39.5, y), (50.5, y)), rgb("d22f4b"), 3.4)
-
-
 def moon(ctx):
     ctx.new_path()
     ctx.arc(45, 45, 36, math.radians(50), math.radians(310))
@@ -60,7 +52,7 @@ MOODS = {
     "frameA": ("3a1a2c", "ff7f9d", chevrons, [pieces.calculator_plus, GLONKS[0], pieces.rock_round, GLONKS[2],
                                              pieces.shifter, pieces.calculator_minus], []),
     "frameB": ("12322f", "4fe0b0", hexagons, [pieces.b_type] + FRUIT + [pieces.b_type], [(300, pieces.b_type)]),
-    "frameM": ("1d1740", "c9a6ff", night_sky, [moon, pin, pieces.bowling_ball, pin, pieces.bowling_ball, pin], []),
+    "frameM": ("1d1740", "c9a6ff", night_sky, [moon] + [pieces.pin, pieces.bowling_ball] * 2 + [pieces.pin], []),
 }
 
 

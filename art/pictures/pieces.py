@@ -1,5 +1,6 @@
 """The lifeless pieces: rocks, tools, treasures and fruit, each on 90x90."""
 import math
+import cairo
 from . import creatures, glyphs
 from .shapes import (blob, box, circle, curve, darker, ellipse, fill, glossy, lighter, line,
                      polygon, rgb, sloped, star, stroke, tube)
@@ -197,9 +198,34 @@ def detonator(ctx):
 
 
 def b_type(ctx):
-    """Hexagonal tile with a B; only ever an icon."""
+    """Hexagonal tile with a B."""
     glossy(ctx, polygon([(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)], 6), rgb("17a06a"), 4)
     glyphs.letter(ctx, "B", 33, 24, 7, 11, rgb("fff0b8"), 3)
+
+
+# How far down, half the width there. A pin stands on the next one's head.
+PIN_PROFILE = ((4, 5), (5.5, 10), (12, 14.5), (20, 13.5), (28.5, 10.8), (36, 13.2), (43, 20), (50, 26), (58, 29),
+               (66, 28.8), (74, 25), (81, 18.5), (85.5, 14), (86.5, 9))
+
+
+def pin(ctx):
+    ivory, red = rgb("f3ecdf"), rgb("e2342f")
+    body = blob([(45 + half, y) for y, half in PIN_PROFILE] + [(45 - half, y) for y, half in reversed(PIN_PROFILE)])
+    glossy(ctx, body, ivory, 0)
+    ctx.save()
+    body(ctx)
+    ctx.clip()
+    for y in (24.5, 34):
+        stroke(ctx, curve(25, y - 2, 36, y + 2, 54, y + 2, 65, y - 2), red, 5.4)
+    shade = cairo.LinearGradient(18, 0, 72, 10)
+    for at, alpha in ((0, .3), (.2, 0), (.5, 0), (1, .52)):
+        shade.add_color_stop_rgba(at, *rgb("2b1d4a"), alpha)
+    ctx.set_source(shade)
+    ctx.paint()
+    ctx.restore()
+    for path, alpha in ((ellipse(34, 58, 4.6, 10, 14), .95), (ellipse(39, 13, 3.2, 4.6, 20), .95)):
+        fill(ctx, path, (1, 1, 1), alpha)
+    stroke(ctx, body, rgb("1d1426"), 3)
 
 
 def leaf(ctx, x, y, degrees, size=1.0):
@@ -258,7 +284,7 @@ PIECES = {
     "rock_01": rock_round, "rock_02": rock_pile, "rock_03": rock_peak,
     "slammer": slammer, "bomb": bomb, "bauble": bauble, "diamond": diamond,
     "calculator_01": calculator_plus, "calculator_02": calculator_minus, "shifter": shifter,
-    "bowlingball": bowling_ball, "money": money, "music": music,
+    "bowlingball": bowling_ball, "money": money, "music": music, "btype": b_type, "pin": pin,
 }
 FRUIT = {"apple": apple, "orange": orange, "cherry": cherry, "grapes": grapes}
 
