@@ -3,7 +3,7 @@ import math
 import random
 import numpy as np
 from PIL import Image
-from . import creatures, pieces
+from . import creatures, glyphs, pieces
 from .canvas import KEY, Canvas
 from .shapes import box, circle, darker, fill, lighter, line, polygon, rgb, sloped, star, stroke
 
@@ -72,6 +72,36 @@ def goal_panel(ctx, ground):
     sloped(ctx, box(71, 17, 233, 63, 9), darker(ground, .82), darker(ground, .7), 2, lighter(ground, .2), diagonal=False)
 
 
+SHEET_TOP, SHEET_MARKS, SHEET_BOTTOM = 8, 33, 62    # a roll's mark stands in the upper part, the total below
+# Left and right edge of each frame of a game, and the edges of its rolls from the left one.
+SHEET = [(84 + 68 * k, 84 + 68 * (k + 1), (24, 46, 68)) for k in range(9)] + [(696, 790, (28, 50, 72, 94))]
+
+
+def score_sheet(ctx, ground, accent):
+    """Ten empty frames of a bowling game, for white text."""
+    rim, height = darker(accent, .42), SHEET_BOTTOM - SHEET_TOP
+    left, right = SHEET[0][0], SHEET[-1][1]
+    whole = box(left + .5, SHEET_TOP + .5, right - left - 1, height - 1, 4)
+    sloped(ctx, whole, darker(ground, .35), darker(ground, .62), 0, diagonal=False)
+    ctx.save()
+    whole(ctx)
+    ctx.clip()
+    for x0, x1, rolls in SHEET:
+        first = 0 if len(rolls) > 3 else 1      # the first roll has a square of its own in the last frame alone
+        at, end = x0 + rolls[first], x0 + rolls[-1]
+        fill(ctx, box(at, SHEET_TOP, end - at, SHEET_MARKS - SHEET_TOP), accent, .1)
+        stroke(ctx, line((x0 + rolls[0] + .5, SHEET_TOP), (x0 + rolls[0] + .5, SHEET_MARKS)), accent, 1, .16)
+        for x in rolls[first:-1]:
+            stroke(ctx, line((x0 + x + .5, SHEET_TOP), (x0 + x + .5, SHEET_MARKS)), rim, 1)
+        stroke(ctx, line((at + .5, SHEET_MARKS + .5), (end + .5, SHEET_MARKS + .5)), rim, 1)
+        if x1 < right:
+            stroke(ctx, line((x1 + .5, SHEET_TOP), (x1 + .5, SHEET_BOTTOM)), rim, 1)
+    ctx.restore()
+    stroke(ctx, whole, rim, 1)
+    for k, (x, _, _) in enumerate(SHEET):
+        glyphs.lettering(ctx, str(k + 1), x + 5, SHEET_TOP + 3, 1.1, 1.2, [darker(accent, .3)], 0, 1)
+
+
 def frame(name):
     ground_text, accent_text, ornament, figures, counters = MOODS[name]
     ground, accent = rgb(ground_text), rgb(accent_text)
@@ -90,6 +120,8 @@ def frame(name):
     lip(ctx, ground, accent)
     if name == "frameA":
         goal_panel(ctx, ground)
+    if name == "frameM":
+        score_sheet(ctx, ground, accent)
     for i, draw in enumerate(figures):
         pieces.place(ctx, draw, 954, 100 + i * 98, 62, .62)
     for x, draw in counters + COUNTED:
