@@ -37,7 +37,7 @@ def new_game():
     second_head(ctx, "Level", 17, 145)
     for i in range(4):
         stand(ctx, i, 119 + i * 27, 157.3, 27)
-    row_of(ctx, (pieces.bomb, pieces.diamond, pieces.bauble), 18, 294, 37, 42)
+    row_of(ctx, (pieces.bomb, pieces.b_type, pieces.bauble), 18, 294, 37, 42)
     button(ctx, "Play", 152, 296, 73, 33)
     return canvas.indexed()
 
@@ -192,9 +192,9 @@ def title():
         slope(ctx, polygon(trail), BLUE, low, low - 42, .32)
         pieces.place(ctx, draw, x, y, size, turn=turn)
     logo(ctx, 121.5, 24, 5.8, {"LO": -.9})
-    words(ctx, "Slam them.  Bomb them.  Love them.", 121.5, 91, 10.5, middle=True)
+    words(ctx, "Slam them.  Bomb them.  Bowl them over.", 121.5, 91, 10.5, middle=True)
     crowd(ctx, 121.5, 254)
-    row_of(ctx, (pieces.rock_pile, pieces.orange, pieces.cherry), 18, 272, 36, 40)
+    row_of(ctx, (pieces.rock_pile, pieces.orange, pieces.pin), 18, 272, 36, 40)
     button(ctx, "Start", 144, 272, 73, 33, 2)
     return canvas.indexed()
 
