@@ -3,34 +3,20 @@
 #include <cmath>
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <iomanip>
 #include <iostream>
 #include <string>
 #include <vector>
 
-#include "base/paths.h"
-#include "base/text.h"
-#include "game/arcade.h"
-#include "game/freestyle.h"
-#include "game/loading/levels.h"
-#include "game/loading/newgame.h"
-#include "game/loading/pieces.h"
+#include "bench/headlessgame.h"
 #include "game/model/gametick.h"
 #include "game/model/model.h"
-#include "present/keys.h"
-#include "present/pause.h"
-#include "present/screen/display.h"
-#include "present/screen/fconsole.h"
-#include "storage/files/scrambledfiles.h"
-#include "tests/fakes/clock.h"
-#include "tests/fakes/random.h"
-#include "tests/fakes/sound.h"
-#include "tests/fakes/toolkit.h"
+#include "game/modes.h"
+#include "storage/files/datafiles.h"
 #include "tests/fakes/window.h"
 
-// How hard the Arcade levels are, and how long Freestyle lasts: a simple player plays each of them
-// some times, without a screen and as fast as it goes. bench_levels <game folder> [games a level]
+// How hard the Arcade levels and the grades of B-Type are, and how long Freestyle lasts: a simple
+// player plays each of them some times. bench_levels <game folder> [games a level] [mode]
 //
 // The player looks two turned rows ahead and does the first of them, a key at a time. A person
 // plans further, but doesn't see all that it sees.
@@ -40,12 +26,7 @@ using namespace glonks;
 
 constexpr i32 firstLevel = 3101;
 constexpr i32 lastLevel = 3108;
-constexpr i32 freestyleLevel = 2193;
-constexpr i32 frameTime = 26;       // ms
-constexpr i32 keyPause = 300;       // ms between two keys of the player
-constexpr i32 longest = 1'800'000;  // ms; a game that goes on is broken off
-
-enum ScanCode : i32 { keyUp = 200, keyLeft = 203, keyRight = 205, keyDown = 208 };
+constexpr i32 keyPause = 300;  // ms between two keys of the player
 
 // The pieces at rest.
 struct Board {
@@ -126,7 +107,8 @@ bool isToStay(const Piece& piece) { return avoidOn == True && piece.name == avoi
 
 double worthOf(const Piece& piece) {
   if (isToStay(piece)) return -1000;
-  return piece.name == goalPieceName && goalPieceCount > 0 ? 30 : 10;
+  const bool wanted = piece.name == "BType" || (piece.name == goalPieceName && goalPieceCount > 0);
+  return wanted ? 30 : 10;
 }
 
 // Where the run of identical pieces that begins at `low` ends; `low` if none begins there.
@@ -257,53 +239,46 @@ struct Tally {
   double points = 0;
 };
 
-void playGame(i32 level, i32 game, Tally& tally) {
-  fake::useGenerator();
-  fake::resetClock();
-  fake::nextSeed = game * 10'000;
-  fake::resetSound();
-  initVariables();
-  loadPieces();
-  const i32 start = gameTick();
-  minuteStart = start;
-  const bool freestyle = level == freestyleLevel;
-  loadLevel("\\levels\\" + plainNumber(level), flagOf(!freestyle));
-  Player player;
-  fake::messages = [&] {
-    fake::clockNow += frameTime;
-    player.play();
-    if (gameTick() > longest) gameOver = True;
-  };
-  freestyle ? play() : playArcade();
+// What is played of a mode: an Arcade level, or an item of its list.
+struct Contest {
+  std::string mode;
+  std::string title;
+  i32 level = 0;
+  i16 item = 0;
+};
 
+std::vector<Contest> allContests() {
+  std::vector<Contest> all = {{"Freestyle", "Freestyle", freestyleLevel}};
+  const Mode bType = modeTitled("B-Type");
+  for (i16 item = 0; item < static_cast<i16>(bType.levelItems.size()); ++item) {
+    all.push_back({"B-Type", bType.levelItems.at(item), bType.levelFiles.at(item), item});
+  }
+  for (i32 level = firstLevel; level <= lastLevel; ++level) all.push_back({"Arcade", "", level});
+  return all;
+}
+
+void playGame(const Contest& contest, i32 game, Tally& tally) {
+  Player player;
+  levelOver = False;
+  levelWon = False;
+  const i32 length = playHeadless(modeTitled(contest.mode), contest.level, contest.item, game,
+                                  [&] { player.play(); });
   tally.points += score;
-  tally.seconds += (gameTick() - start) / 1000.0;
+  tally.seconds += length / 1000.0;
   if (levelWon == True) {
     ++tally.wins;
   } else if (levelOver == True) {
     ++(avoidOn == True && avoidLeft < 1 ? tally.avoid : tally.time);
   } else {
-    ++(gameTick() > longest ? tally.brokenOff : tally.fullColumn);
+    ++(wasBrokenOff() ? tally.brokenOff : tally.fullColumn);
   }
 }
 
-void setUp(const std::string& gameFolder) {
-  setProgramFolder(std::filesystem::absolute(gameFolder));
-  fake::useGenerator();
-  makeKeys(keySeed, keyDrawArgument, keyScale);
-  fConsole_Show(readKeys, pauseByCloseBox);
-  initDX();
-  songNames.clear();
-  // Popups, goals and ticker live by being drawn; on one pixel that costs next to nothing.
-  backBuffer = std::make_shared<DirectDrawSurface7>(1, 1);
-  backBuffer->SetFont(gameFont);
-}
-
-void report(i32 level, i32 games) {
+void report(const Contest& contest, i32 games) {
   Tally tally;
-  for (i32 game = 1; game <= games; ++game) playGame(level, game, tally);
-  const std::string title = level == freestyleLevel ? "Freestyle" : levelTitle;
-  std::cout << level << "  " << std::left << std::setw(16) << title << std::right;
+  for (i32 game = 1; game <= games; ++game) playGame(contest, game, tally);
+  std::cout << contest.level << "  " << std::left << std::setw(16)
+            << (contest.title.empty() ? levelTitle : contest.title) << std::right;
   for (const i32 count :
        {games, tally.wins, tally.fullColumn, tally.time, tally.avoid, tally.brokenOff}) {
     std::cout << std::setw(12) << count;
@@ -316,16 +291,17 @@ void report(i32 level, i32 games) {
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::cerr << "usage: bench_levels <game folder> [games a level]\n";
+    std::cerr << "usage: bench_levels <game folder> [games a level] [mode]\n";
     return EXIT_FAILURE;
   }
   const i32 games = argc > 2 ? std::max(1, std::atoi(argv[2])) : 10;
   try {
-    setUp(argv[1]);
+    setUpHeadless(argv[1]);
     std::cout << "level                        games        wins full column        time       "
                  "avoid  broken off mean seconds mean points\n";
-    report(freestyleLevel, games);
-    for (i32 level = firstLevel; level <= lastLevel; ++level) report(level, games);
+    for (const Contest& contest : allContests()) {
+      if (argc <= 3 || contest.mode == argv[3]) report(contest, games);
+    }
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return EXIT_FAILURE;

@@ -44,13 +44,8 @@ void win() {
 // Once the level is decided, the game ends when the ticker is empty. Oddity 24: with a survival
 // timer the test runs the other way, so that an open goal wins such a level at once.
 void testOutcome() {
-  if (levelOver == True) {
-    if (tickerUpper < 0) gameOver = True;
-  } else if (surviveOn == False) {
-    if (goalsMet() == True) win();
-  } else {
-    if (goalsMet() == False) win();
-  }
+  if (endOnceDecided()) return;
+  if (surviveOn == False ? goalsMet() == True : goalsMet() == False) win();
 }
 
 }  // namespace

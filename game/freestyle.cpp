@@ -1,13 +1,12 @@
 #include "game/freestyle.h"
 
 #include "base/random.h"
-#include "base/text.h"
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "game/playloop.h"
 #include "present/effects/ticker.h"
 #include "present/frogparade.h"
-#include "present/screen/display.h"
+#include "present/itemdisplay.h"
 #include "rules/generation.h"
 
 namespace glonks {
@@ -19,8 +18,6 @@ constexpr i32 notesLimit = 9;           // while fewer have been collected
 constexpr i32 frogBonusScore = 60000;   // the bonus starts above it
 constexpr i32 frogBonusLength = 60000;  // ms
 constexpr i32 paradeOvertime = 3000;    // ms for which the parade runs on after the bonus
-constexpr i32 scoreX = 83;
-constexpr i32 scoreY = 45;
 
 void spawnOrNote() {
   const i32 draw = drawBelow(noteChance);
@@ -30,8 +27,6 @@ void spawnOrNote() {
     spawnPiece();
   }
 }
-
-void drawScore() { backBuffer->DrawText(scoreX, scoreY, plainNumber(score), False); }
 
 void showParade() {
   if (frogBonusOn == True && i64{frogBonusUntil} + paradeOvertime > gameTick()) frogParade();

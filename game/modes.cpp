@@ -1,7 +1,10 @@
 #include "game/modes.h"
 
 #include "game/arcade.h"
+#include "game/btype.h"
 #include "game/freestyle.h"
+#include "game/midnightbowling.h"
+#include "game/model/model.h"
 #include "storage/files/datafiles.h"
 
 namespace glonks {
@@ -16,8 +19,8 @@ const Mode table[] = {
          "only goal is that elusive high score.",
      .levelItems = {nothingToSelect},
      .framePicture = "frame",
+     .levelFiles = {freestyleLevel},
      .loop = play,
-     .levelFile = freestyleLevel,
      .counter = Counter::stock,
      .itemKeys = True,
      .scoreTable = True},
@@ -35,8 +38,21 @@ const Mode table[] = {
          "pieces before you bail.",
      .levelItems = {"Mild", "Medium", "Spicy"},
      .framePicture = "frameB",
+     .levelFiles = {bTypeLevels.begin(), bTypeLevels.end()},
+     .setUp = setUpBType,
+     .loop = playBType,
+     .outcome = bTypeOutcome,
      .counter = Counter::pieces},
-    {.modeTitle = "Midnight Bowling", .levelItems = {nothingToSelect}, .framePicture = "frameM"},
+    {.modeTitle = "Midnight Bowling",
+     .modeDescription = "Ten pins, ten frames, and a moon to see by.  Slide the pins to where the "
+                        "ball comes down, "
+                        "and knock over all you can.",
+     .levelItems = {nothingToSelect},
+     .framePicture = "frameM",
+     .setUp = setUpBowling,
+     .loop = playBowling,
+     .outcome = bowlingOutcome,
+     .ticket = midnightBowlingItem},
 };
 
 }  // namespace
@@ -44,7 +60,7 @@ const Mode table[] = {
 std::vector<Mode> offeredModes() {
   std::vector<Mode> offered;
   for (const Mode& mode : table) {
-    if (!mode.modeDescription.empty()) offered.push_back(mode);
+    if (mode.ticket < 0 || stockOf(mode.ticket) > 0) offered.push_back(mode);
   }
   return offered;
 }

@@ -12,7 +12,7 @@ namespace glonks {
 inline std::vector<Mode> modes;  // those offered, and free slots, whose titles are empty
 inline i16 modesUpper = -1;      // upper bound of `modes`
 
-// The rows that the page New Game offers, in its order: those with a description.
+// The rows that the page New Game offers, in its order: all but those that a ticket is missing for.
 std::vector<Mode> offeredModes();
 
 // The row of a title; one without title and loop if there is none.

@@ -68,6 +68,11 @@ void endPass(Runner run) {
 
 void runPlainly(Statement statement) { statement(); }
 
+bool endOnceDecided() {
+  if (levelOver == True && tickerUpper < 0) gameOver = True;
+  return levelOver == True;
+}
+
 void stepRules(Runner run) {
   run(movePieces);
   if (pendingSpawns > 0) {

@@ -27,6 +27,10 @@ void runPlainly(Statement statement);
 // Plays until gameOver. Needs the game's resources, its catalogue and spawnInterval.
 void runLoop(const LoopMode& mode);
 
+// For a mode whose games are decided: once levelOver is set, ends the game when the ticker is
+// empty. Tells whether it is set.
+bool endOnceDecided();
+
 // The rules of one frame: physics, queued spawns, compaction, the scan of the board.
 void stepRules(Runner run);
 

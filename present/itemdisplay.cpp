@@ -16,6 +16,8 @@ constexpr i32 itemPitch = 100;
 constexpr i16 itemsShown = 4;
 constexpr i32 bankX = 795;
 constexpr i32 notesX = 895;
+constexpr i32 scoreX = 83;
+constexpr i32 scoreY = 45;
 
 void drawCounter(i32 x, i32 count) {
   backBuffer->DrawText(x, lineY, plainNumber(count) + " x ", False);
@@ -33,5 +35,7 @@ void drawItems() {
   drawCounter(bankX, bank);
   drawCounter(notesX, notesCollected);
 }
+
+void drawScore() { backBuffer->DrawText(scoreX, scoreY, plainNumber(score), False); }
 
 }  // namespace glonks

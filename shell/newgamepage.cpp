@@ -12,17 +12,31 @@
 #include "storage/progress.h"
 
 namespace glonks {
+namespace {
+
+constexpr i16 modeSlots = 4;
+
+}  // namespace
 
 void mNew_Click() { showPage(newGamePage); }
 
 void Image6_Click() { mNew_Click(); }
 
-void popModes() {
+void listModes() {
+  const std::string picked = textOf(tMode);
   modes = offeredModes();
   clearItems(tMode);
-  for (const Mode& mode : modes) addItem(tMode, mode.modeTitle);
-  modes.emplace_back();  // a free slot
-  modesUpper = static_cast<i16>(modes.size() - 1);
+  for (const Mode& mode : modes) {
+    addItem(tMode, mode.modeTitle);
+    if (mode.modeTitle == picked) tMode.listIndex = static_cast<i16>(tMode.items.size() - 1);
+  }
+  modes.resize(modeSlots);  // those behind are free
+  modesUpper = modeSlots - 1;
+  if (tMode.listIndex == -1) tMode_Click();
+}
+
+void popModes() {
+  listModes();
   clearItems(scoreModes);
   for (const Mode& mode : modes) {
     if (mode.scoreTable == True) addItem(scoreModes, mode.modeTitle);

@@ -9,6 +9,10 @@ void Image6_Click();  // the title page's button, to this page
 // Fills `modes`, tMode and scoreModes, and selects the first item of scoreModes.
 void popModes();
 
+// Fills `modes` and tMode anew, after the stock of tickets has changed. The mode picked stays, and
+// so do its levels and what is selected among them, unless it isn't offered any more.
+void listModes();
+
 // A mode was picked: shows its description and fills tLevels. For Arcade it reads the open levels;
 // where that fails the player sees a message, and the list shows those that are known.
 void tMode_Click();

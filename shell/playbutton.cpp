@@ -18,6 +18,7 @@
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/menucontrols.h"
+#include "shell/musicpage.h"
 #include "shell/newgamepage.h"
 #include "shell/saving.h"
 #include "shell/scorespage.h"
@@ -33,10 +34,8 @@ namespace {
 bool gameChosen(const Mode& mode) {
   if (tMode.listIndex == -1) {
     messageBox("Please select a game mode.");
-  } else if (mode.hasGoals == True && tLevels.listIndex == -1) {
+  } else if (hasChoice(mode) && tLevels.listIndex == -1) {
     messageBox("Please select a level.");
-  } else if (mode.loop == nullptr) {
-    messageBox(mode.modeTitle + " can't be played yet.  Please select another game mode.");
   } else {
     return true;
   }
@@ -55,26 +54,29 @@ void loadGame(const Surface& loading) {
   showLoadingLine(loading, "Playing...");
 }
 
+bool hasLevel() { return gameMode.hasGoals == True || !gameMode.levelFiles.empty(); }
+
 std::string pathOfLevel() {
-  const i32 file = gameMode.levelFile != 0
-                       ? gameMode.levelFile
-                       : tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
-  return "\\levels\\" + plainNumber(file);
+  const auto& files = gameMode.hasGoals == True ? tLevels.itemData : gameMode.levelFiles;
+  const i16 place = hasChoice(gameMode) ? gameItem : i16{0};
+  return "\\levels\\" + plainNumber(files[static_cast<std::size_t>(place)]);
 }
 
 // Whether the level's file can be read; the player sees a message if not. Looked at before the
 // screen is taken.
 bool levelReadable() {
-  return succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
+  return !hasLevel() || succeeds([] { ScrambledReader(pathOfLevel(), levelChannel).close(); });
 }
 
-// Gives the screen back if the level turns out to be damaged.
-void loadChosenLevel() {
+// Gives the screen back if the level turns out to be damaged, or what the mode adds to it can't be
+// loaded.
+void setUpMode() {
   // Item keys look for this name.
   modeName = gameMode.itemKeys == True ? "Freestyle" : gameMode.modeTitle;
   if (gameMode.hasGoals == True) minuteStart = gameTick();
   try {
-    loadLevel(pathOfLevel(), gameMode.hasGoals);
+    if (hasLevel()) loadLevel(pathOfLevel(), gameMode.hasGoals);
+    if (gameMode.setUp != nullptr) gameMode.setUp();
   } catch (const RuntimeError&) {
     gameOver = True;  // so that fConsole can be closed
     destroy();
@@ -82,11 +84,30 @@ void loadChosenLevel() {
   }
 }
 
+std::string keepPrize() {
+  if (gameMode.outcome == nullptr) return "";
+  const Outcome outcome = gameMode.outcome();
+  bank = clamped<i16>(i32{bank} + outcome.prize);
+  return outcome.message;
+}
+
+// Stored before it is told, so that it lasts whatever ends the program now.
+void announce(const std::string& text) {
+  if (text.empty()) return;
+  saveSilently();
+  messageBox(text);
+}
+
 void playGame() {
+  if (gameMode.ticket >= 0) --stockOf(gameMode.ticket);
   gameMode.loop();
   destroy();
   if (gameMode.hasGoals == True && levelWon == True) awardLevel();
   if (gameMode.scoreTable == True) enterHighScore();
+  announce(keepPrize());
+  for (const std::string& song : openBonusSongs()) {
+    announce("Congratulations!  You have been awarded a bonus song:  " + song);
+  }
 }
 
 }  // namespace
@@ -95,6 +116,7 @@ void main_BtnRun_Click() {
   const Mode chosen = modeTitled(textOf(tMode));
   if (!gameChosen(chosen)) return;
   gameMode = chosen;
+  gameItem = tLevels.listIndex;
   if (!levelReadable()) return;
   hideForm(fMain);
   gameOver = False;  // so that fConsole can't be closed while the game is being loaded
@@ -103,8 +125,9 @@ void main_BtnRun_Click() {
   initDX();
   const Surface loading = loadLoadingPicture();  // lives as long as this handler
   loadGame(loading);
-  if (succeeds(loadChosenLevel)) playGame();
+  if (succeeds(setUpMode)) playGame();
   saveStore();
+  listModes();
   showForm(fMain);
 }
 
@@ -112,6 +135,7 @@ void storeAtOnce() {
   if (std::exchange(inPlay, False) == True) {
     if (gameMode.scoreTable == True) keepScore();
     if (gameMode.hasGoals == True && levelWon == True) keepLevel();
+    keepPrize();
   }
   saveSilently();
 }

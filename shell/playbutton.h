@@ -8,7 +8,7 @@ namespace glonks {
 void main_BtnRun_Click();
 
 // Stores what the player has when the run has to end, and asks nothing: in the middle of a game the
-// score as it stands, without a name, and a level that has been won.
+// score as it stands, without a name, a level that has been won, and a prize.
 void storeAtOnce();
 
 }  // namespace glonks

@@ -5,6 +5,8 @@
 
 #include "base/text.h"
 #include "game/model/model.h"
+#include "shell/musicpage.h"
+#include "shell/newgamepage.h"
 #include "shell/pages.h"
 #include "shell/saving.h"
 #include "shell/toolkit/toolkit.h"
@@ -44,9 +46,8 @@ void showStock() {
 void purchase_Click(i16 Index) {
   const StoreItem& item = storeItems[static_cast<std::size_t>(Index)];
   i16& stock = stockOf(Index);
-  const std::string words = item.words;
-  if (item.onSale == False) {
-    messageBox("You can't buy " + words + " yet.  Please choose another item.");
+  if (Index == bonusSongItem && openBonusSongCount() == bonusSongCount) {
+    messageBox("You have all the Bonus Songs already.");
     return;
   }
   if (bank < item.price) {
@@ -57,13 +58,16 @@ void purchase_Click(i16 Index) {
     messageBox("You have as many of these as you can hold.");
     return;
   }
-  const std::string price = plainNumber(item.price);
-  if (yesNoBox("Do you want to purchase " + words + " for " + price + " credits?") != True) return;
+  const std::string question = std::string("Do you want to purchase ") + item.words + " for " +
+                               plainNumber(item.price) + " credits?";
+  if (yesNoBox(question) != True) return;
   bank = static_cast<i16>(bank - item.price);
   ++stock;
   showCount(Index);
   showBank();
   saveStore();
+  openBonusSongs();
+  listModes();
 }
 
 }  // namespace glonks

@@ -11,18 +11,17 @@ namespace glonks {
 struct StoreItem {
   i16 price;          // credits
   const char* words;  // in the question
-  Flag onSale;
 };
 
 // By slot of itemStock. This is the one place for prices: the page's picture is drawn from it, and
 // the manual is checked against it.
 inline constexpr std::array<StoreItem, storeRows> storeItems = {{
-    {2, "a Slammer", True},
-    {4, "a Bomb", True},
-    {7, "a Detonator", True},
-    {10, "a Bowling Ball", True},
-    {40, "a Bonus Song", False},
-    {40, "Midnight Bowling", False},
+    {2, "a Slammer"},
+    {4, "a Bomb"},
+    {7, "a Detonator"},
+    {10, "a Bowling Ball"},
+    {40, "a Bonus Song"},
+    {40, "a game of Midnight Bowling"},
 }};
 
 void mStore_Click();  // shows the page, with fresh numbers
@@ -37,7 +36,8 @@ void saveStore();
 // Sets the labels from bank and itemStock.
 void showStock();
 
-// One attempt to buy the item of a slot, 0 to 5: refuses, or asks, takes the price and stores.
+// One attempt to buy the item of a slot, 0 to 5: refuses, or asks, takes the price and stores. A
+// Bonus Song enters the list of songs, and Midnight Bowling that of the modes.
 void purchase_Click(i16 Index);
 
 }  // namespace glonks

@@ -26,7 +26,8 @@ class TempFolder : public ::testing::Test {
       fs::create_directory_symlink(gameFolder / part, folder / part);
     }
     fs::copy(gameFolder / "init", folder / "init");
-    fs::copy(gameFolder / "first", folder / "init", fs::copy_options::overwrite_existing);
+    fs::copy(gameFolder / "first", folder / "init",
+             fs::copy_options::overwrite_existing | fs::copy_options::recursive);
     setProgramFolder(folder);
   }
   ~TempFolder() override { std::filesystem::remove_all(folder); }

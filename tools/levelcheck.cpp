@@ -27,7 +27,13 @@ namespace fs = std::filesystem;
 constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
 constexpr double minute = 60'000;  // ms
-const std::string freestyleFile = std::to_string(freestyleLevel);
+
+// Levels of Freestyle's form: a pace and pieces, and nothing else.
+bool isPlainLevel(const std::string& name) {
+  return name == std::to_string(freestyleLevel) ||
+         std::any_of(bTypeLevels.begin(), bTypeLevels.end(),
+                     [&](i32 level) { return name == std::to_string(level); });
+}
 
 struct Field {
   std::string name;
@@ -142,7 +148,7 @@ class LevelCheck {
 
   void checkLevel() {
     const std::string name = file_.filename().string();
-    Level* level = name == freestyleFile ? nullptr : &levels_[name];
+    Level* level = isPlainLevel(name) ? nullptr : &levels_[name];
     const Field interval = toNumber<i32>(textOf("spawnInterval"));
     if (interval.number && *interval.number < 1) fault(interval, "isn't above 0.");
     if (interval.number && *interval.number > longestInterval) {

@@ -1,5 +1,6 @@
 #include "game/loading/pieces.h"
 
+#include "game/model/catalogue.h"
 #include "game/model/model.h"
 #include "game/model/piecefields.h"
 #include "present/screen/keyedpicture.h"
@@ -37,6 +38,11 @@ Piece loadPiece(const std::string& fileId) {
     piece.surface = loadKeyedPicture(picture, piece.surfaceDesc);
   }
   return piece;
+}
+
+void loadPictureOf(const std::string& name, const std::string& picture) {
+  Piece& entry = catalogEntry(slotNamed(name));
+  entry.surface = loadKeyedPicture(picture, entry.surfaceDesc);
 }
 
 void loadPieces() {

@@ -34,7 +34,7 @@ struct Piece {
   std::string name;         // kind of piece, also the word shown to the player
   i16 variety = 0;          // number within a kind; -1 for a Calculator of negative value
   i16 imageIndex = 0;       // catalogue slot whose surface draws this piece
-  Surface surface;          // the picture; none for BType and Pin
+  Surface surface;          // the picture; BType and Pin get theirs in their modes
   SurfaceDesc surfaceDesc;  // filled when the picture is loaded; nothing reads it
   Flag slammable = False;   // can be removed between two Slammers
   Flag bombable = False;    // can be destroyed by a neighbouring explosion
@@ -174,6 +174,7 @@ inline i32 frogBonusUntil = 0;           // game tick; not reset
 inline Flag pythagoreanDone = False;     // bonus paid in this game; reset: False
 inline i16 pythagoreanSum = 0;           // what Calculators have paid; reset: 0
 inline i16 bTypeLeft = 0;                // BType pieces on the field; not reset
+inline std::vector<i16> bowlingRolls;    // Pins that each ball has taken; set by Midnight Bowling
 inline std::string themeName = "Cells";  // folder of the chosen theme; kept
 inline constexpr i16 loudest = 100;
 inline i16 musicVolume = 70;                // 0 to loudest, for the next song; kept

@@ -20,6 +20,9 @@ inline constexpr char levelsFileName[] = "6537";
 // and in the levels themselves.
 inline constexpr i32 freestyleLevel = 2193;
 
+// The same for B-Type, by its grades from the mildest; their files have the same form.
+inline constexpr std::array<i32, 3> bTypeLevels = {2194, 2195, 2196};
+
 // In "\init\", the piece files by slot of the catalogue.
 inline constexpr std::array<const char*, 19> pieceFileIds = {"1980",   // BType
                                                              "0018",   // Pin

@@ -33,7 +33,7 @@
   themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,  \
       mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode, \
       tLevels, fake::clockNow, fake::nextSeed, fake::draws, fake::generator, fake::shown,        \
-      fake::seen, fake::heard, fake::drawn, fake::onPicture
+      fake::seen, fake::heard, fake::drawn, fake::onPicture, gameItem, bowlingRolls, songs
 #define STRING_OF(...) #__VA_ARGS__
 #define NAMES_OF(list) STRING_OF(list)
 

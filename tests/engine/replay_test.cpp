@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "rules/items.h"
+#include "shell/musicpage.h"
 #include "shell/playbutton.h"
 #include "storage/files/scrambledfiles.h"
 #include "tests/engine/enginetest.h"
@@ -72,7 +73,7 @@ class ReplayTest : public EngineTest {
 
   void play(const std::string& mode, const Script& script) {
     putBytes("\\plain", script.level);
-    for (const char* file : {"\\levels\\2193", "\\levels\\7"}) {
+    for (const char* file : {"\\levels\\2193", "\\levels\\2194", "\\levels\\7"}) {
       std::filesystem::remove(nativePath(file));
       scrambleFile("\\plain", file);
     }
@@ -80,6 +81,9 @@ class ReplayTest : public EngineTest {
     dirtyGame();
     paused = False;
     itemStock.fill(9);
+    stockOf(bonusSongItem) = 0;
+    openBonusSongs();
+    songNames = Names(7);
     fake::useGenerator();
     choose(mode, script.name);
     fake::asked = [this] {
@@ -176,6 +180,34 @@ TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {
     play("Arcade", script);
   }
   expectRecord("arcade");
+}
+
+TEST_F(ReplayTest, BTypeIsWonByTheLastPieceAndLostByAFullColumn) {
+  const std::string pieces = "\nGlonk,1,0,399\nSlammer,0,400,699\nBomb,0,700,899\nRock,1,900,999\n";
+  const auto layLast = [] {
+    lay("..T4/.RBR/S1T1S.4STTTS", "B");
+    bTypeLeft = 5;
+  };
+  play("B-Type", {"won", "1500" + pieces, {"Left", "1", "Up", "Right", "4"}, {{9000, layLast}}});
+  play("B-Type", {"lost", "400" + pieces, {"Left", "Down", "Left", "Up"}, {}});
+  expectRecord("btype");
+}
+
+TEST_F(ReplayTest, BowlingIsPlayedToItsLastBallAndLeft) {
+  const auto standBelowTheBall = [] {
+    const auto end = fallingPieces.end();
+    const auto ball = std::find_if(fallingPieces.begin(), end,
+                                   [](const Piece& piece) { return piece.isBowlingBall == True; });
+    if (ball == end || ball->y < 100 || ball->y > 103) return;
+    lay("...P/..PP/.PPP/PPPP");
+    ball->column = 3;
+  };
+  Script perfect = {"perfect", "", {}, {}};
+  for (i32 time = 0; time < 150000; time += 27) perfect.events[time] = standBelowTheBall;
+  play("Midnight Bowling", perfect);
+  play("Midnight Bowling", {"played", "", {"Left", "Up", "Left", "Up", "Right", "Down"}, {}});
+  play("Midnight Bowling", {"left", "", {}, {{30000, [] { press("Escape", 0); }}}});
+  expectRecord("bowling");
 }
 
 }  // namespace glonks

@@ -6,10 +6,13 @@
 #include "present/effects/ticker.h"
 #include "present/goaldisplay.h"
 #include "present/itemdisplay.h"
+#include "present/scoresheet.h"
 #include "rules/boardscan.h"
 #include "rules/bombs.h"
+#include "rules/bowlingscore.h"
 #include "rules/generation.h"
 #include "rules/items.h"
+#include "rules/lane.h"
 #include "rules/removal.h"
 #include "rules/rowshift.h"
 #include "rules/slamming.h"
@@ -29,6 +32,16 @@ class RulesTest : public EngineTest {
     std::string all = "draws";
     for (const std::string& line : drawn()) all += " / " + line;
     note(all);
+  }
+
+  static void noteBowling(const BowlingGame& game) {
+    std::string all = "sheet";
+    for (const BowlingFrame& frame : game.frames) {
+      if (!frame.marks.empty()) all += " " + frame.marks;
+      if (frame.total >= 0) all += " " + std::to_string(frame.total);
+    }
+    note(all + "; " + std::to_string(game.points) + " points" + (game.newRack ? "; new rack" : "") +
+         (game.over ? "; over" : ""));
   }
 
   // The acts of the tables below, one for each rule that is called from outside.
@@ -57,6 +70,16 @@ class RulesTest : public EngineTest {
            drawItems();
            noteDrawn();
          }},
+        {"sheet",
+         [](const Words& pins) {
+           bowlingRolls.clear();
+           for (const std::string& taken : pins) bowlingRolls.push_back(number(taken));
+           noteBowling(bowlingGame(bowlingRolls));
+         }},
+        {"drawsheet", [](const Words&) { drawScoreSheet(), noteDrawn(); }},
+        {"pins", [](const Words&) { setPins(); }},
+        {"standing", [](const Words&) { note("standing " + std::to_string(pinsStanding())); }},
+        {"sweep", [](const Words&) { sweepPins(); }},
         {"fill", [](const Words&) { itemStock.fill(1); }},
         {"stock",
          [](const Words&) {
@@ -112,6 +135,8 @@ TEST_F(RulesTest, RemovalsPayCountAndSpread) {
   playTable("removal", acts());
   EXPECT_EQ(cellAt(0, 0).name + cellAt(0, 1).name, "");
 }
+
+TEST_F(RulesTest, BowlingIsCountedAsInTheSport) { playTable("bowling", acts()); }
 
 TEST_F(RulesTest, LastKeyOfTheOrderActsOnceTheGateIsOpen) { playTable("keys", acts()); }
 

@@ -41,9 +41,11 @@ TEST(Manual, IsWholeAndReachedByKeysAndLinks) {
   }
   i32 key = 0;
   for (const StoreItem& item : storeItems) {
-    const QString name = QString(item.words).section(' ', 1);
-    const QString row = QString("\n%1\n%2\n%3\n").arg(name).arg(item.price).arg(++key);
-    EXPECT_EQ(all.contains(row), item.onSale == True) << item.words;
+    QString name(item.words);
+    while (!name[0].isUpper()) name = name.section(' ', 1);
+    QString row = QString("\n%1\n%2\n").arg(name).arg(item.price);
+    if (++key <= 4) row += QString::number(key) + "\n";
+    EXPECT_TRUE(all.contains(row)) << item.words;
   }
   window.show();
   QApplication::setActiveWindow(&window);

@@ -11,6 +11,8 @@
 #include "shell/fpieces.h"
 #include "shell/ftip.h"
 #include "shell/menucontrols.h"
+#include "shell/musicpage.h"
+#include "shell/newgamepage.h"
 #include "shell/playbutton.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
@@ -65,7 +67,7 @@ class MainWindowTest : public TempFolder {
 TEST_F(MainWindowTest, StartShowsATipOrAGreetingAndTheTitleWithEverythingRead) {
   EXPECT_TRUE(scores_freestyle.items.size() == 10 && scores_freestyle.visible == True);
   EXPECT_TRUE(songs.items.size() == 4 && std::is_sorted(songs.items.begin(), songs.items.end()));
-  EXPECT_TRUE(bank == 5 && allBands.items.size() == 4 && textOf(scoreModes) == "Freestyle");
+  EXPECT_TRUE(bank == 5 && allBands.items.size() == 7 && textOf(scoreModes) == "Freestyle");
   // The title covers the first page, which the keys can't reach either.
   EXPECT_TRUE(frame[0].visible == True && frame[7].visible == True);
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
@@ -159,10 +161,22 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
   const std::tuple<std::string, std::string, Texts, i16, std::string> table[] = {
       // mode, description, levels, the one selected, what Play says
       {"Arcade", "Every level challenges", {"One, two", "Last"}, -1, "Please select a level."},
-      {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, 0, "B-Type can't be played yet."},
-      {"", "B-Type begins", {"Mild", "Medium", "Spicy"}, -1, "Please select a game mode."},
+      {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, -1, "Please select a level."},
+      {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, 2, "btype.bmp"},
+      {"Midnight Bowling", "Ten pins", {"No levels to select.  Just click Play!"}, -1, "pin.bmp"},
+      {"",
+       "Ten pins",
+       {"No levels to select.  Just click Play!"},
+       -1,
+       "Please select a game mode."},
       {"Arcade", "Every level", {"One, two", "Last"}, 0, "\"\\levels\\17\" can't be opened"},
       {"Arcade", "Every level", {"One, two", "Last"}, 1, "\"\\levels\\18\" is too short"}};
+  ownFolderOfLinks("images");
+  for (const char* piece : {"btype", "pin"}) {
+    std::filesystem::remove(folder / "images" / (piece + std::string(".bmp")));
+  }
+  stockOf(midnightBowlingItem) = 1;
+  listModes();
   choose("&New");
   for (const auto& [mode, description, levels, level, told] : table) {
     setText(tMode, mode);
@@ -171,6 +185,47 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
     answered(Qt::Key_Return, [this] { press("Play"); });
     EXPECT_TRUE(holds(lastMessage, told) && window->isVisible() && !fake::windowOpen) << told;
   }
+  EXPECT_EQ(stockOf(midnightBowlingItem), 1) << "a game that doesn't start takes no ticket";
+}
+
+TEST_F(MainWindowTest, PrizesAreStoredBeforeTheyAreToldAndTicketsAndSongsComeAndGo) {
+  const std::string lastSong = "Zigzag Ferry - Last Boat at Midnight";
+  const auto buy = [](i16 slot, Qt::Key answer = Qt::Key_Y) {
+    answered(answer, [slot] { run(purchase[static_cast<std::size_t>(slot)].click); });
+  };
+  press("Start");
+  EXPECT_EQ(tMode.items.size(), 3U);
+  bank = 160;
+  notesCollected = 2;
+  buy(midnightBowlingItem);
+  EXPECT_PRED2(holds, lastMessage, "a game of Midnight Bowling for 40 credits?");
+  for (const std::size_t count : {5U, 6U}) {
+    buy(bonusSongItem);
+    EXPECT_TRUE(holds(lastMessage, "a Bonus Song for 40 credits?") && songNames.size() == count);
+  }
+  setText(tMode, "Midnight Bowling");
+  i32 passes = 0;
+  std::string stored;
+  fake::windowMessages = [&] {
+    ++fake::clockNow;
+    if (++passes != 2) return;
+    bowlingRolls = {10, 10, 10};
+    notesCollected = 3;
+    fake::clockNow += 1000;
+    fake::pressKeys({1});
+    answerNext(Qt::Key_Return);  // the prize, and then the song
+    later([&] { later([&] { loadStore(), stored = lastMessage, answerNext(Qt::Key_Return); }); });
+  };
+  press("Play");
+  EXPECT_PRED2(holds, stored, "You have bowled 60 points.  You win 3 credits!");
+  EXPECT_PRED2(holds, lastMessage, lastSong);
+  EXPECT_EQ(bank, 43) << "when the prize was told";
+  EXPECT_TRUE(songNames == songs.items && songs.items.back() == lastSong);
+  EXPECT_TRUE(tMode.items.size() == 3 && tMode.listIndex == -1 && tLevels.items.empty());
+  popSongs();
+  EXPECT_EQ(songs.items.size(), 7U) << "in a later start";
+  buy(bonusSongItem, Qt::Key_Return);
+  EXPECT_TRUE(holds(lastMessage, "You have all the Bonus Songs already.") && bank == 43);
 }
 
 TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {

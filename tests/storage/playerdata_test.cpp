@@ -134,7 +134,7 @@ const std::tuple<const PlayersFile&, std::string, std::size_t, const char*, std:
         {scoresFile, table, 3, "1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.", withoutD,
          "9 of its 10 scores"},
         {scoresFile, table + "50,K\n40,L\n", 11, "x", table, "10 of its 10 scores"},
-        {storeFile, "77\n7\n2", 0, nullptr, "77\n7\n2\n1\n1\n1\n1\n0\n0\n0\n0\nCells\n70\n",
+        {storeFile, "77\n7\n2", 0, nullptr, "77\n7\n2\n1\n0\n0\n1\n0\n0\n0\n0\nCells\n70\n",
          "3 of its 13 values"},
         {storeFile, "77\n" + goods, 0, "7a.1.", "5\n" + goods, "12 of its 13 values"},
         {levelsFile, "missing", 0, nullptr, "First Steps\n3101\n", "is missing."},
