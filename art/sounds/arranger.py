@@ -2,6 +2,7 @@
 import numpy as np
 
 from instruments import RATE
+from loudness import loudness
 from synth import Synth, convolve, decibels, note_number, note_pitch
 
 CHORDS = {
@@ -9,7 +10,8 @@ CHORDS = {
     "maj7": [0, 4, 7, 11], "m6": [0, 3, 7, 9], "maj9": [0, 4, 7, 11, 14],
     "m9": [0, 3, 7, 10, 14], "9sus": [0, 5, 7, 10, 14], "add9": [0, 4, 7, 14],
 }
-LOUDNESS, PEAK = -18, -4.5  # dBFS
+LOUDNESS = -18  # LUFS, of every song
+PEAK = -4.5  # dBFS
 
 
 class Chord:
@@ -92,14 +94,21 @@ class Song:
         return result
 
     def master(self):
+        """The limiter takes away some loudness, so the level is set once before and corrected after it."""
         mix = self.dry + self._reverb() + self._echoes()
         mix = np.array([self.synth.band(side, 35, 15000) for side in mix])
-        mix *= decibels(LOUDNESS) / np.sqrt(np.mean(mix ** 2))
-        top = decibels(PEAK)
-        knee = .6 * top
-        over = np.maximum(0, np.abs(mix) - knee) / (top - knee)
-        mix = np.sign(mix) * (np.minimum(np.abs(mix), knee) + (top - knee) * np.tanh(over))
-        return self.synth.fade(mix, .01, 7), RATE
+        mix = self.synth.fade(mix, .01, 7)
+        mix *= decibels(LOUDNESS - loudness(mix, RATE))
+        mix *= decibels(LOUDNESS - loudness(_limited(mix), RATE))
+        return _limited(mix), RATE
+
+
+def _limited(mix):
+    """Bends what is loud below the peak; what is soft stays as it is."""
+    top = decibels(PEAK)
+    knee = .6 * top
+    over = np.maximum(0, np.abs(mix) - knee) / (top - knee)
+    return np.sign(mix) * (np.minimum(np.abs(mix), knee) + (top - knee) * np.tanh(over))
 
 
 class Part:
