@@ -2,20 +2,23 @@
 import numpy as np
 
 from instruments import RATE
+from loudness import loudness
 from synth import Synth, convolve, decibels, note_number, note_pitch
 
 CHORDS = {
     "": [0, 4, 7], "m": [0, 3, 7], "7": [0, 4, 7, 10], "m7": [0, 3, 7, 10],
     "maj7": [0, 4, 7, 11], "m6": [0, 3, 7, 9], "maj9": [0, 4, 7, 11, 14],
     "m9": [0, 3, 7, 10, 14], "9sus": [0, 5, 7, 10, 14], "add9": [0, 4, 7, 14],
+    "6": [0, 4, 7, 9], "9": [0, 4, 7, 10, 14], "7b9": [0, 4, 7, 10, 13], "m7b5": [0, 3, 6, 10],
 }
-LOUDNESS, PEAK = -18, -4.5  # dBFS
+LOUDNESS = -18  # LUFS, of every song
+PEAK = -4.5  # dBFS
 
 
 class Chord:
-    def __init__(self, name):
+    def __init__(self, name, shift=0):
         split = 2 if name[1:2] in ("#", "b") else 1
-        self.root = note_number(name[:split] + "0") % 12
+        self.root = (note_number(name[:split] + "0") + shift) % 12
         self.steps = CHORDS[name[split:]]
 
     def bass(self, low=36):
@@ -30,8 +33,8 @@ class Chord:
         return sorted(low + (self.root + step - low) % 12 for step in self.steps)
 
 
-def chords(text):
-    return [Chord(name) for name in text.split()]
+def chords(text, shift=0):
+    return [Chord(name, shift) for name in text.split()]
 
 
 def melody(text, beats):
@@ -48,21 +51,23 @@ def melody(text, beats):
 
 
 class Song:
-    def __init__(self, name, tempo, beats, bars, tail=4.0, swing=.5, loose=.003):
+    """Two swung notes take pair beats together; swing is the share of the first one."""
+
+    def __init__(self, name, tempo, beats, bars, tail=4.0, swing=.5, pair=.5, loose=.003, echo_beats=.75):
         self.synth = Synth(RATE, name)
-        self.beats, self.swing, self.loose = beats, swing, loose
+        self.beats, self.swing, self.pair, self.loose = beats, swing, pair, loose
+        self.echo_beats = echo_beats
         self.beat_seconds = 60 / tempo
         frames = int((bars * beats * self.beat_seconds + tail) * RATE)
         self.dry, self.hall, self.echo = (np.zeros((2, frames)) for _ in range(3))
 
     def seconds_at(self, beat):
-        """Swing delays the second half of every half beat."""
-        whole, part = divmod(beat * 2, 1)
+        whole, part = divmod(beat / self.pair, 1)
         if part < .5:
             part *= 2 * self.swing
         else:
             part = self.swing + (part - .5) * 2 * (1 - self.swing)
-        return (whole + part) / 2 * self.beat_seconds
+        return (whole + part) * self.pair * self.beat_seconds
 
     def add(self, sound, beat, gain, pan, hall, echo):
         when = self.seconds_at(beat) + abs(self.synth.rng.normal(0, self.loose))
@@ -85,21 +90,28 @@ class Song:
     def _echoes(self):
         """Repeats that change sides."""
         result = np.zeros_like(self.echo)
-        step = int(.75 * self.beat_seconds * RATE)
+        step = int(self.echo_beats * self.beat_seconds * RATE)
         for count in range(1, 5):
             moved = self.echo[::-1] if count % 2 else self.echo
             result[:, count * step:] += .5 ** count * moved[:, :-count * step]
         return result
 
     def master(self):
+        """The limiter takes away some loudness, so the level is set once before and corrected after it."""
         mix = self.dry + self._reverb() + self._echoes()
         mix = np.array([self.synth.band(side, 35, 15000) for side in mix])
-        mix *= decibels(LOUDNESS) / np.sqrt(np.mean(mix ** 2))
-        top = decibels(PEAK)
-        knee = .6 * top
-        over = np.maximum(0, np.abs(mix) - knee) / (top - knee)
-        mix = np.sign(mix) * (np.minimum(np.abs(mix), knee) + (top - knee) * np.tanh(over))
-        return self.synth.fade(mix, .01, 7), RATE
+        mix = self.synth.fade(mix, .01, 7)
+        mix *= decibels(LOUDNESS - loudness(mix, RATE))
+        mix *= decibels(LOUDNESS - loudness(_limited(mix), RATE))
+        return _limited(mix), RATE
+
+
+def _limited(mix):
+    """Bends what is loud below the peak; what is soft stays as it is."""
+    top = decibels(PEAK)
+    knee = .6 * top
+    over = np.maximum(0, np.abs(mix) - knee) / (top - knee)
+    return np.sign(mix) * (np.minimum(np.abs(mix), knee) + (top - knee) * np.tanh(over))
 
 
 class Part:

@@ -17,6 +17,7 @@ def _struck(partials, ring):
 music_box = _struck([(1, 1, .7), (2.01, .25, .35), (3.98, .22, .15), (6.3, .08, .05)], 2.2)
 glass = _struck([(1, 1, .8), (2.76, .22, .3), (5.4, .08, .1)], 2.4)
 marimba = _struck([(1, 1, .22), (3.93, .32, .08), (9.2, .12, .03)], .8)
+short_guitar = _struck([(1, 1, .13), (2, .55, .1), (3, .3, .07), (4, .14, .05)], .45)
 guitar = _struck([(1, 1, .35), (2, .5, .25), (3, .28, .17), (4, .14, .12), (5, .08, .08)], 1.2)
 
 
@@ -122,3 +123,104 @@ def tick(pitch, seconds):
 
 def tock(pitch, seconds):
     return s.modes(1500, .06, [(1, 1, .012), (1.6, .6, .006)])
+
+
+def vibraphone(pitch, seconds):
+    """The turning lids make it swell and fade; the damper comes down soon after the note."""
+    length = min(seconds, 2.2) + .45
+    tone = s.modes(pitch, length, [(1, 1, 1.1), (3.98, .16, .3), (9.9, .05, .05)])
+    lids = 1 - .16 * (1 - np.cos(2 * np.pi * 5.4 * s.time(length)))
+    return s.fade(tone * lids, .002, .4)
+
+
+def clarinet(pitch, seconds):
+    length = seconds + .04
+    tone = s.harmonics(_vibrato(pitch, length, .003), length, [1, .05, .6, .06, .34, .07, .16, .05, .08], 2200)
+    return .7 * tone * s.swell(length, .035, .07)
+
+
+def ride(pitch, seconds):
+    ping = s.modes(3170, .5, [(1, .5, .06), (1.47, .4, .05), (2.09, .3, .12), (2.56, .2, .1)])
+    return s.fade(.3 * ping + .5 * _noise("ride", .5, 5500) * s.decay(.5, .1, .003), .001, .2)
+
+
+def sweep(pitch, seconds):
+    """A brush drawn over the snare."""
+    return _noise("sweep", .3, 1800, 6000) * s.swell(.3, .12, .17) ** 1.5
+
+
+def sleigh(pitch, seconds):
+    """A handful of small bells, never quite together."""
+    bells = s.modes(4100, .2, [(1, 1, .03), (1.18, .8, .04), (1.43, .7, .03), (1.71, .5, .02)])
+    return s.place(.3, [(late, level * bells) for late, level in ((0, 1), (.014, .6), (.033, .8), (.061, .35))])
+
+
+def accordion(pitch, seconds):
+    """Two reeds that beat against each other, over a softer one an octave below."""
+    length = seconds * .94 + .06
+    weights = [1, .75, .6, .42, .34, .22, .16, .12, .08, .05]
+    tone = s.harmonics(pitch * .9975, length, weights, 2300) + s.harmonics(pitch * 1.0025, length, weights, 2300)
+    tone += .45 * s.harmonics(pitch / 2, length, weights[:6], 1500)
+    bellows = .8 + .2 * np.exp(-s.time(length) / .15)
+    return .35 * tone * bellows * s.swell(length, .022, .05)
+
+
+def mandolin(pitch, seconds):
+    """A pair of wires, plucked near the bridge."""
+    wire = [(k, abs(np.sin(.62 * k)) / k, .5 / k ** .6) for k in range(1, 11)]
+    tone = s.modes(pitch, .9, wire) + s.modes(pitch * 1.0018, .9, wire)
+    return s.fade(.6 * tone, .001, .4)
+
+
+def frame_drum(pitch, seconds):
+    skin = s.sine(s.glide(105, 72, .35), .35) * s.decay(.35, .11, .003)
+    return s.fade(skin + .12 * _noise("frame drum", .35, 300, 1600) * s.decay(.35, .03), .001, .15)
+
+
+def tambourine(pitch, seconds):
+    jingles = s.modes(5200, .2, [(1, .5, .04), (1.31, .5, .05), (1.83, .4, .03)])
+    return .4 * jingles + .6 * _noise("tambourine", .2, 5000, 12000) * s.decay(.2, .035)
+
+
+def spoons(pitch, seconds):
+    return s.modes(1180, .06, [(1, 1, .01), (2.3, .6, .006), (3.9, .3, .004)])
+
+
+def twang(pitch, seconds):
+    """A guitar string struck hard beside the bridge, through an amplifier that trembles."""
+    length = min(seconds, 2.5) + .5
+    t = s.time(length)
+    phase = s.phase(_vibrato(pitch, length, .004) * (1 + .006 * np.exp(-t / .03)), length)
+    tone = sum(np.sin(.45 * k) / k ** .8 * np.exp(-t * k ** .65 / 1.1) * np.sin(k * phase)
+               for k in range(1, 15) if k * pitch < 5500)
+    return s.fade(tone * (1 - .14 * (1 - np.cos(2 * np.pi * 6.1 * t))), .002, .4)
+
+
+def chop(pitch, seconds):
+    """The same guitar with the hand on its strings."""
+    return s.fade(s.modes(pitch, .16, [(k, abs(np.sin(.9 * k)) / k, .06) for k in range(1, 9)]), .001, .08)
+
+
+def organ(pitch, seconds):
+    """Drawbars over a turning horn."""
+    length = seconds + .06
+    turn = np.sin(2 * np.pi * 6.3 * s.time(length))
+    tone = s.harmonics(pitch / 2 * (1 + .002 * turn), length, [.7, 1, .6, .5, 0, .3, 0, .18], 2600)
+    return .5 * tone * (1 + .12 * turn) * s.swell(length, .012, .07)
+
+
+def dub_bass(pitch, seconds):
+    length = seconds + .06
+    tone = s.harmonics(pitch, length, [1, .45, .16, .06], 300)
+    return tone * s.swell(length, .012, .08) * np.exp(-s.time(length) / 1.8)
+
+
+def fog_horn(pitch, seconds):
+    length = seconds + .9
+    return _detuned(pitch, length, 14, 420, .006) * s.swell(length, .35, 1)
+
+
+def sea(pitch, seconds):
+    """A wave that comes in and runs out."""
+    wave = _noise("sea", seconds, 250, 1800)
+    return wave * np.sin(np.pi * s.time(seconds) / seconds) ** 2

@@ -1,6 +1,7 @@
-"""The four songs. All have the form intro, A, A, B, A, ending."""
+"""The four songs, of the form intro, A, A, B, A, ending, and the table of all songs with the bonus ones."""
 import instruments as play
 from arranger import Part, Song, chords
+from bonussongs import last_boat_at_midnight, snowed_in_sideways, warm_bread_waltz
 
 
 def slow_parade():
@@ -252,4 +253,7 @@ SONGS = {
     "The Tin Orchard - Clockwork Rain": clockwork_rain,
     "Velvet Gears - Night Bus Home": night_bus_home,
     "Low Tide Radio - Seven Rows": seven_rows,
+    "Winter Kiosk - Snowed In Sideways": snowed_in_sideways,
+    "Yonder Bakery - Warm Bread Waltz": warm_bread_waltz,
+    "Zigzag Ferry - Last Boat at Midnight": last_boat_at_midnight,
 }
