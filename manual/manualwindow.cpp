@@ -37,6 +37,8 @@ constexpr Chapter chapters[] = {
     {"Scoring", "scoring"},
     {"Freestyle", "freestyle"},
     {"Arcade", "arcade"},
+    {"B-Type", "btype"},
+    {"Midnight Bowling", "bowling"},
     {"The store", "store"},
     {"The menu's pages", "pages"},
     {"The windows of Help", "windows"},
