@@ -23,6 +23,7 @@
 #include "present/effects/ticker.h"
 #include "present/fielddrawing.h"
 #include "present/itemdisplay.h"
+#include "present/scoresheet.h"
 #include "present/screen/display.h"
 #include "present/screen/keyedpicture.h"
 #include "present/services/directsound.h"
@@ -36,7 +37,8 @@
 // pointer, and three texts (score, level title, song). With effects, as when much goes off at once:
 // frogs behind the frame picture, and after the pointer counters, impacts, zaps, popups and the
 // ticker, of which all but the counters are at other places in each frame. SDL and Qt have their
-// texts drawn before.
+// texts drawn before. Ours is composed in the other modes too, with all that they show: the count
+// of B-Type's pieces, a full score sheet of Midnight Bowling.
 namespace {
 
 using namespace glonks;
@@ -151,6 +153,9 @@ void setUpOurs() {
   itemStock.fill(3);
   bank = 3;
   notesCollected = 3;
+  score = 12345;
+  bTypeLeft = 30;
+  bowlingRolls = {10, 9, 1, 8, 2, 7, 0, 10, 10, 5, 5, 0, 10, 10, 10, 9, 1};
 }
 
 void drawLines() {
@@ -189,6 +194,22 @@ void composeOurs(benchmark::State& state) {
     layFrame();
     drawField();
     drawPointer();
+    drawLines();
+    benchmark::DoNotOptimize(backBuffer->pixels());
+  }
+}
+
+void composeMode(benchmark::State& state, const std::string& title, void (*texts)()) {
+  gameMode = modeTitled(title);
+  loadPictures();
+  for (auto _ : state) {
+    clearBack();
+    layPlate();
+    layFrame();
+    drawField();
+    drawPointer();
+    drawItems();
+    texts();
     drawLines();
     benchmark::DoNotOptimize(backBuffer->pixels());
   }
@@ -479,6 +500,9 @@ BENCHMARK(composeQt)->Unit(benchmark::kMillisecond);
 BENCHMARK(composeOursEffects)->Unit(benchmark::kMillisecond);
 BENCHMARK(composeSdlEffects)->Unit(benchmark::kMillisecond);
 BENCHMARK(composeQtEffects)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(composeMode, BType, "B-Type", drawScore)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(composeMode, Bowling, "Midnight Bowling", drawScoreSheet)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

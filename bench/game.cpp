@@ -11,6 +11,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "game/model/gametick.h"
+#include "game/model/mode.h"
 #include "game/model/model.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
@@ -22,8 +23,9 @@
 #include "shell/toolkit/toolkit.h"
 
 // A real game on the screen at hand, with a busy board and all effects: bench_game <game folder>
-// [seconds]. Tells the time from the click on Play to the first frame, the frame period, the time
-// that showing a picture takes, the share of one core and the peak memory.
+// [seconds [mode]]. The board of Midnight Bowling stays as the game sets it. Tells the time from
+// the click on Play to the first frame, the frame period, the time that showing a picture takes,
+// the share of one core and the peak memory.
 namespace {
 
 using namespace glonks;
@@ -99,18 +101,20 @@ extern "C" void __wrap__ZN6glonks11showPictureEPKj(const u32* pixels) {  // NOLI
   __real__ZN6glonks11showPictureEPKj(pixels);
   shown.push_back({begin, now()});
   if (static_cast<i32>(shown.size()) <= loadingPictures) return;
-  keepBusy();
+  if (gameMode.ticket < 0) keepBusy();
   keepEffectsUp();
   if (now() < settling) cpuAtStart = cpuSeconds();
   if (now() > playingSeconds + settling && gameOver == False) {
     cpuAtEnd = cpuSeconds();
+    gameMode.scoreTable = False;  // no box waits for a player after the game
+    gameMode.outcome = nullptr;
     gameOver = True;
   }
 }
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::cerr << "usage: bench_game <game folder> [seconds]\n";
+    std::cerr << "usage: bench_game <game folder> [seconds [mode]]\n";
     return EXIT_FAILURE;
   }
   if (argc > 2) playingSeconds = leadingNumber(argv[2]);
@@ -118,7 +122,10 @@ int main(int argc, char** argv) {
     startToolkit();
     setProgramFolder(std::filesystem::absolute(argv[1]));
     fTip_Form_Load();
-    setText(tMode, "Freestyle");
+    stockOf(midnightBowlingItem) = 1;
+    listModes();
+    setText(tMode, argc > 3 ? argv[3] : "Freestyle");
+    tLevels.listIndex = 0;
     click = Clock::now();
     main_BtnRun_Click();
   } catch (const std::exception& error) {

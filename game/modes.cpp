@@ -44,9 +44,9 @@ const Mode table[] = {
      .outcome = bTypeOutcome,
      .counter = Counter::pieces},
     {.modeTitle = "Midnight Bowling",
-     .modeDescription = "Ten pins, ten frames, and a moon to see by.  Slide the pins to where the "
-                        "ball comes down, "
-                        "and knock over all you can.",
+     .modeDescription =
+         "Ten pins, ten frames, and a moon to see by.  Slide the pins to where the ball comes "
+         "down, and knock over all you can.",
      .levelItems = {nothingToSelect},
      .framePicture = "frameM",
      .setUp = setUpBowling,
