@@ -13,7 +13,6 @@
 #include "game/model/model.h"
 #include "game/modes.h"
 #include "rules/bowlingscore.h"
-#include "tests/fakes/window.h"
 
 // Whether Midnight Bowling rewards skill: the points of a player who never presses a key, and of
 // one who slides rows for the ball that is coming, at several speeds.
@@ -86,12 +85,6 @@ double expectedFall(const Pins& pins, i32 column) {
   return fall;
 }
 
-struct Plan {
-  i32 row = 0;
-  i32 steps = 0;  // to the right; below 0 to the left
-  double worth = 0;
-};
-
 // The best turn of one row, with up to `more` turns of other rows after it, for a ball in a column.
 Plan bestPlan(const Pins& pins, i32 column, i32 pointer, i32 keysLeft, i32 more) {
   constexpr double keyCost = 0.05;
@@ -125,13 +118,7 @@ class Player {
       const i32 timeLeft = std::max(0, 180 - ball->y) * 26 + 300;
       plan_ = bestPlan(pinsInView(), ball->column, selectedRow, timeLeft / keyPause_, 1);
     }
-    if (plan_.steps == 0) return;
-    if (plan_.row != selectedRow) {
-      fake::pressKeys({plan_.row > selectedRow ? keyUp : keyDown});
-    } else {
-      fake::pressKeys({plan_.steps > 0 ? keyRight : keyLeft});
-      plan_.steps += plan_.steps > 0 ? -1 : 1;
-    }
+    pressNextKey(plan_);
   }
 
  private:

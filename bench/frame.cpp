@@ -187,13 +187,17 @@ void setEffects(i32 number) {
   }
 }
 
+void composeBoard() {
+  clearBack();
+  layPlate();
+  layFrame();
+  drawField();
+  drawPointer();
+}
+
 void composeOurs(benchmark::State& state) {
   for (auto _ : state) {
-    clearBack();
-    layPlate();
-    layFrame();
-    drawField();
-    drawPointer();
+    composeBoard();
     drawLines();
     benchmark::DoNotOptimize(backBuffer->pixels());
   }
@@ -203,11 +207,7 @@ void composeMode(benchmark::State& state, const std::string& title, void (*texts
   gameMode = modeTitled(title);
   loadPictures();
   for (auto _ : state) {
-    clearBack();
-    layPlate();
-    layFrame();
-    drawField();
-    drawPointer();
+    composeBoard();
     drawItems();
     texts();
     drawLines();

@@ -10,6 +10,7 @@
 #include "game/loading/newgame.h"
 #include "game/loading/pieces.h"
 #include "game/model/gametick.h"
+#include "game/model/model.h"
 #include "present/keys.h"
 #include "present/pause.h"
 #include "present/screen/display.h"
@@ -30,6 +31,16 @@ constexpr i32 longest = 1'800'000;  // ms
 bool brokenOff = false;
 
 }  // namespace
+
+void pressNextKey(Plan& plan) {
+  if (plan.steps == 0) return;
+  if (plan.row != selectedRow) {
+    fake::pressKeys({plan.row > selectedRow ? keyUp : keyDown});
+  } else {
+    fake::pressKeys({plan.steps > 0 ? keyRight : keyLeft});
+    plan.steps += plan.steps > 0 ? -1 : 1;
+  }
+}
 
 void setUpHeadless(const std::string& gameFolder) {
   setProgramFolder(std::filesystem::absolute(gameFolder));

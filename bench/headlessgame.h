@@ -11,6 +11,17 @@ namespace glonks {
 // DirectInput scan codes, for fake::pressKeys.
 enum ScanCode : i32 { keyUp = 200, keyLeft = 203, keyRight = 205, keyDown = 208 };
 
+// What a playing program has in mind: to turn a row.
+struct Plan {
+  i32 row = 0;
+  i32 steps = 0;  // to the right; below 0 to the left
+  double worth = 0;
+};
+
+// Presses the key that the plan asks for next, and takes a step off once it is a turn; none when
+// the plan has been carried out.
+void pressNextKey(Plan& plan);
+
 // Makes the program ready, from a game's folder.
 void setUpHeadless(const std::string& gameFolder);
 

@@ -13,7 +13,6 @@
 #include "game/model/model.h"
 #include "game/modes.h"
 #include "storage/files/datafiles.h"
-#include "tests/fakes/window.h"
 
 // How hard the Arcade levels and the grades of B-Type are, and how long Freestyle lasts: a simple
 // player plays each of them some times. bench_levels <game folder> [games a level] [mode]
@@ -189,12 +188,6 @@ double lieOf(const Board& board) {
   return lie;
 }
 
-struct Plan {
-  i32 row = 0;
-  i32 steps = 0;  // to the right; below 0 to the left
-  double worth = 0;
-};
-
 // The best turn of one row, with up to `more` turns of other rows after it.
 Plan bestPlan(const Board& board, i32 pointer, i32 more) {
   constexpr double keyCost = 0.5;
@@ -220,13 +213,7 @@ class Player {
   void play() {
     if (gameTick() < lastKeyTick + keyPause || isSettling()) return;
     if (plan_.steps == 0) plan_ = bestPlan(boardInView(), selectedRow, 1);
-    if (plan_.steps == 0) return;
-    if (plan_.row != selectedRow) {
-      fake::pressKeys({plan_.row > selectedRow ? keyUp : keyDown});
-    } else {
-      fake::pressKeys({plan_.steps > 0 ? keyRight : keyLeft});
-      plan_.steps += plan_.steps > 0 ? -1 : 1;
-    }
+    pressNextKey(plan_);
   }
 
  private:
