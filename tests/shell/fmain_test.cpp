@@ -204,12 +204,13 @@ TEST_F(MainWindowTest, PrizesAreStoredBeforeTheyAreToldAndTicketsAndSongsComeAnd
     EXPECT_TRUE(holds(lastMessage, "a Bonus Song for 40 credits?") && songNames.size() == count);
   }
   setText(tMode, "Midnight Bowling");
+  bowlingRolls = {9};
   i32 passes = 0;
   std::string stored;
   fake::windowMessages = [&] {
     ++fake::clockNow;
     if (++passes != 2) return;
-    bowlingRolls = {10, 10, 10};
+    EXPECT_EQ(std::exchange(bowlingRolls, {10, 10, 10}).size(), 0U) << "from the game before";
     notesCollected = 3;
     fake::clockNow += 1000;
     fake::pressKeys({1});
@@ -260,6 +261,18 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
   loadStore();
   loadScores();
   EXPECT_TRUE(bank == 3 && holds(scores_freestyle.items[0], "40000   \t")) << "of a failed run";
+  setText(tMode, "B-Type");
+  for (const auto& [grade, prize] : {std::pair<i16, i16>{0, 3}, {1, 6}, {2, 12}}) {
+    tLevels.listIndex = grade;
+    fake::windowMessages = [] {
+      bank = 1, levelWon = True;
+      throw std::length_error("no room");
+    };
+    EXPECT_THROW(run(main_BtnRun.click), std::length_error);
+    storeAtOnce();
+    loadStore();
+    EXPECT_EQ(bank, 1 + prize) << "of a failed run that was won";
+  }
 }
 
 TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {
