@@ -28,8 +28,7 @@ struct Mode {
   void (*setUp)() = nullptr;       // after the level has been read: pictures and pieces
   void (*loop)() = nullptr;        // plays one game
   Outcome (*outcome)() = nullptr;  // of the game just played, or of what was played of it
-  i16 ticket =
-      -1;  // slot of itemStock: a game takes one off, and only with one is the mode offered
+  i16 ticket = -1;  // slot of itemStock: a game takes one off, and without one isn't offered
   Counter counter = Counter::none;  // left of credits and notes; `pieces`: bTypeLeft
   Flag hasGoals = False;    // its levels have titles, rewards and goals, and one is to be selected
   Flag itemKeys = False;    // goods of the stock may be used
