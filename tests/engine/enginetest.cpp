@@ -316,6 +316,7 @@ void lay(const std::string& rows, const std::string& due) {
   auto row = static_cast<i16>(std::count(rows.begin(), rows.end(), '/'));
   i16 column = 0;
   for (const char letter : rows) {
+    if (letter != '/' && column >= columnCount) throw std::logic_error("row too long: " + rows);
     if (letter != '/' && letter != '.') {
       Cell& cell = cellAt(row, column);
       static_cast<Piece&>(cell) = pieceOf(letter);

@@ -185,10 +185,10 @@ TEST_F(ReplayTest, ArcadeIsWonAndLostInEachWay) {
 TEST_F(ReplayTest, BTypeIsWonByTheLastPieceAndLostByAFullColumn) {
   const std::string pieces = "\nGlonk,1,0,399\nSlammer,0,400,699\nBomb,0,700,899\nRock,1,900,999\n";
   const auto layLast = [] {
-    lay("..T4/.RBR/S1T1S.4STTTS", "B");
+    lay("..T4/.RBR/S1T1STTTS4", "B");
     bTypeLeft = 5;
   };
-  play("B-Type", {"won", "1500" + pieces, {"Left", "1", "Up", "Right", "4"}, {{9000, layLast}}});
+  play("B-Type", {"won", "1500" + pieces, {"Left", "1", "Up", "Right", "4"}, {{25000, layLast}}});
   play("B-Type", {"lost", "400" + pieces, {"Left", "Down", "Left", "Up"}, {}});
   expectRecord("btype");
 }
