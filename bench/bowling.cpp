@@ -13,6 +13,7 @@
 #include "game/model/model.h"
 #include "game/modes.h"
 #include "rules/bowlingscore.h"
+#include "rules/lane.h"
 
 // Whether Midnight Bowling rewards skill: the points of a player who never presses a key, and of
 // one who slides rows for the ball that is coming, at several speeds.
@@ -31,13 +32,6 @@ Pins pinsInView() {
     }
   }
   return pins;
-}
-
-const Piece* ballInView() {
-  for (const Piece& piece : fallingPieces) {
-    if (piece.isBowlingBall == True) return &piece;
-  }
-  return nullptr;
 }
 
 bool isSettling() {
@@ -111,7 +105,7 @@ class Player {
   explicit Player(i32 keyPause) : keyPause_(keyPause) {}
 
   void play() {
-    const Piece* ball = ballInView();
+    const Piece* ball = ballInFlight();
     if (ball == nullptr) plan_ = {};
     if (ball == nullptr || gameTick() < lastKeyTick + keyPause_ || isSettling()) return;
     if (plan_.steps == 0) {

@@ -1,6 +1,5 @@
 #include "game/midnightbowling.h"
 
-#include <algorithm>
 #include <string>
 
 #include "base/text.h"
@@ -27,12 +26,6 @@ constexpr i16 rollVelocity = 1;      // ...by so many pixels a frame, and falls 
 bool ballThrown = false;  // a ball is on its way
 bool rackWanted = false;  // Pins have to be set before the next ball
 i16 pinsBefore = 0;       // standing when the ball came
-
-Piece* ballInFlight() {
-  const auto ball = std::find_if(fallingPieces.begin(), fallingPieces.end(),
-                                 [](const Piece& piece) { return piece.isBowlingBall == True; });
-  return ball == fallingPieces.end() ? nullptr : &*ball;
-}
 
 // Runs every laneInterval: the next ball, or the next Pins, as soon as nothing moves any more.
 void useFreeLane() {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/random.h"
-#include "game/model/model.h"
 #include "present/effects/effects.h"
 #include "rules/placing.h"
 
@@ -35,6 +34,12 @@ void sweepPins() {
     impactAt(cell, True);
     cell.occupied = False;
   });
+}
+
+Piece* ballInFlight() {
+  const auto ball = std::find_if(fallingPieces.begin(), fallingPieces.end(),
+                                 [](const Piece& piece) { return piece.isBowlingBall == True; });
+  return ball == fallingPieces.end() ? nullptr : &*ball;
 }
 
 }  // namespace glonks

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/types.h"
+#include "game/model/model.h"
 
-// The Pins of Midnight Bowling on the board.
+// The Pins and the ball of Midnight Bowling on the board.
 namespace glonks {
 
 // Stands ten Pins on an empty board, in rows of 4, 3, 2 and 1. Drawn are the column of the bottom
@@ -15,5 +15,9 @@ i16 pinsStanding();
 
 // Clears away all Pins at rest, with an explosion each; nothing is paid.
 void sweepPins();
+
+// The Bowling Ball that is on its way; nullptr if there is none. The next change of fallingPieces
+// may move it.
+Piece* ballInFlight();
 
 }  // namespace glonks

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "rules/items.h"
+#include "rules/lane.h"
 #include "shell/musicpage.h"
 #include "shell/playbutton.h"
 #include "storage/files/scrambledfiles.h"
@@ -195,10 +196,8 @@ TEST_F(ReplayTest, BTypeIsWonByTheLastPieceAndLostByAFullColumn) {
 
 TEST_F(ReplayTest, BowlingIsPlayedToItsLastBallAndLeft) {
   const auto standBelowTheBall = [] {
-    const auto end = fallingPieces.end();
-    const auto ball = std::find_if(fallingPieces.begin(), end,
-                                   [](const Piece& piece) { return piece.isBowlingBall == True; });
-    if (ball == end || ball->y < 100 || ball->y > 103) return;
+    Piece* ball = ballInFlight();
+    if (ball == nullptr || ball->y < 100 || ball->y > 103) return;
     lay("...P/..PP/.PPP/PPPP");
     ball->column = 3;
   };
