@@ -1,7 +1,8 @@
 #include "game/loading/levels.h"
 
+#include <vector>
+
 #include "base/text.h"
-#include "game/model/model.h"
 #include "present/effects/ticker.h"
 #include "storage/files/channels.h"
 #include "storage/files/fieldreader.h"
@@ -10,11 +11,6 @@
 
 namespace glonks {
 namespace {
-
-// Minutes are held one less than the file says: the countdown begins at 59 seconds.
-i16 readMinutes(const std::string& fieldName) {
-  return fittingI16(levelChannel, fieldName, leadingNumber(readField(levelChannel, fieldName)) - 1);
-}
 
 i32 readSpawnInterval() {
   const char* fieldName = "spawnInterval";
@@ -26,56 +22,111 @@ i32 readSpawnInterval() {
   return interval;
 }
 
-void readGoals() {
-  limitOn = False;
-  surviveOn = False;
-  avoidOn = False;
-  landOn = False;
-  levelWon = False;
-  levelOver = False;
-  levelTitle = readLine(levelChannel, "levelTitle");
-  rewardLevelName = readLine(levelChannel, "rewardLevelName");
-  pushMessage(levelTitle);
-  rewardLevelFile = fittingI16(levelChannel, "rewardLevelFile",
-                               leadingNumber(readLine(levelChannel, "rewardLevelFile")));
-  goalPieceCount = readI16(levelChannel, "goalPieceCount");
-  goalPieceName = readField(levelChannel, "goalPieceName");
-  goalScore = readI32(levelChannel, "goalScore");
-  limitMinutes = readMinutes("limitMinutes");
-  limitSeconds = readI16(levelChannel, "limitSeconds");
-  limitOn = flagOf(limitMinutes > 0 || limitSeconds > 0);
-  surviveMinutes = readMinutes("surviveMinutes");
-  surviveSeconds = readI16(levelChannel, "surviveSeconds");
-  surviveOn = flagOf(surviveMinutes > 0 || surviveSeconds > 0);
-  avoidLeft = readI16(levelChannel, "avoidLeft");
-  avoidName = readField(levelChannel, "avoidName");
-  avoidOn = flagOf(avoidLeft != -1);
-  landLeft = readI16(levelChannel, "landLeft");
-  landName = readField(levelChannel, "landName");
-  landOn = flagOf(landLeft != -1);
+CountedGoal readCounted(const std::string& countName, const std::string& pieceName) {
+  CountedGoal goal;
+  goal.left = readI16(levelChannel, countName);
+  goal.name = readField(levelChannel, pieceName);
+  goal.on = flagOf(goal.left != -1);
+  return goal;
 }
+
+LevelTimer readTimer(const std::string& minutesName, const std::string& secondsName) {
+  LevelTimer timer;
+  timer.minutes = fittingI16(levelChannel, minutesName,
+                             leadingNumber(readField(levelChannel, minutesName)) - 1);
+  timer.seconds = readI16(levelChannel, secondsName);
+  timer.on = flagOf(timer.minutes > 0 || timer.seconds > 0);
+  return timer;
+}
+
+LevelHead readHead() {
+  LevelHead head;
+  head.title = readLine(levelChannel, "levelTitle");
+  head.rewardName = readLine(levelChannel, "rewardLevelName");
+  head.rewardFile = fittingI16(levelChannel, "rewardLevelFile",
+                               leadingNumber(readLine(levelChannel, "rewardLevelFile")));
+  head.remove = readCounted("goalPieceCount", "goalPieceName");
+  // This goal alone goes by its name.
+  head.remove.on = flagOf(head.remove.name != noName && head.remove.name != nothingName);
+  head.score = readI32(levelChannel, "goalScore");
+  head.limit = readTimer("limitMinutes", "limitSeconds");
+  head.survive = readTimer("surviveMinutes", "surviveSeconds");
+  head.avoid = readCounted("avoidLeft", "avoidName");
+  head.land = readCounted("landLeft", "landName");
+  return head;
+}
+
+struct SpawnRange {
+  i16 slot = 0;
+  i16 low = 0;
+  i16 high = 0;
+};
 
 // Oddity 1: the two numbers of an entry are read only where a catalogue slot matches. After an
 // entry for an unknown piece everything moves up by two fields.
-void readSpawnEntry() {
+void readSpawnEntry(std::vector<SpawnRange>& ranges) {
   const std::string name = readField(levelChannel, "name of a spawn entry");
   const i16 variety = readWholeI16(levelChannel, "variety of spawn entry \"" + name + "\"");
   for (i16 slot = 0; slot <= pieceCatalogUpper; ++slot) {
-    Piece& entry = catalogEntry(slot);
+    const Piece& entry = catalogEntry(slot);
     if (entry.name != name || entry.variety != variety) continue;
-    entry.spawnLow = readWholeI16(levelChannel, "spawnLow of spawn entry \"" + name + "\"");
-    entry.spawnHigh = readWholeI16(levelChannel, "spawnHigh of spawn entry \"" + name + "\"");
+    const i16 low = readWholeI16(levelChannel, "spawnLow of spawn entry \"" + name + "\"");
+    const i16 high = readWholeI16(levelChannel, "spawnHigh of spawn entry \"" + name + "\"");
+    ranges.push_back({slot, low, high});
   }
 }
 
 }  // namespace
 
+std::string levelPath(i32 number) { return "\\levels\\" + plainNumber(number); }
+
+LevelHead readLevelHead(const std::string& path) {
+  ScrambledReader file(path, levelChannel);
+  readSpawnInterval();
+  LevelHead head = readHead();
+  file.close();
+  return head;
+}
+
+void setLevelFields(const LevelHead& head) {
+  levelTitle = head.title;
+  rewardLevelName = head.rewardName;
+  rewardLevelFile = head.rewardFile;
+  goalPieceCount = head.remove.left;
+  goalPieceName = head.remove.name;
+  goalScore = head.score;
+  limitOn = head.limit.on;
+  limitMinutes = head.limit.minutes;
+  limitSeconds = head.limit.seconds;
+  surviveOn = head.survive.on;
+  surviveMinutes = head.survive.minutes;
+  surviveSeconds = head.survive.seconds;
+  avoidOn = head.avoid.on;
+  avoidLeft = head.avoid.left;
+  avoidName = head.avoid.name;
+  landOn = head.land.on;
+  landLeft = head.land.left;
+  landName = head.land.name;
+}
+
 void loadLevel(const std::string& path, Flag isArcade) {
   ScrambledReader file(path, levelChannel);
-  spawnInterval = readSpawnInterval();
-  if (isArcade == True) readGoals();
-  while (!endOfFile(levelChannel)) readSpawnEntry();
+  const i32 interval = readSpawnInterval();
+  const LevelHead head = isArcade == True ? readHead() : LevelHead();
+  std::vector<SpawnRange> ranges;
+  while (!endOfFile(levelChannel)) readSpawnEntry(ranges);
   file.close();
+
+  spawnInterval = interval;
+  for (const SpawnRange& range : ranges) {
+    catalogEntry(range.slot).spawnLow = range.low;
+    catalogEntry(range.slot).spawnHigh = range.high;
+  }
+  if (isArcade == False) return;
+  setLevelFields(head);
+  levelWon = False;
+  levelOver = False;
+  pushMessage(levelTitle);
 }
 
 }  // namespace glonks

@@ -1,35 +1,11 @@
 #include "game/loading/newgame.h"
 
+#include "game/loading/levels.h"
 #include "game/loading/loadresources.h"
 #include "game/model/model.h"
 #include "storage/files/log.h"
 
 namespace glonks {
-namespace {
-
-void resetLevelFields() {
-  rewardLevelName.clear();
-  levelTitle.clear();
-  rewardLevelFile = 0;
-  goalPieceCount = -1;
-  goalPieceName = noName;
-  avoidName = noName;
-  landName = noName;
-  goalScore = -1;
-  limitOn = False;
-  avoidOn = False;
-  landOn = False;
-  surviveOn = False;
-  limitMinutes = -1;
-  limitSeconds = -1;
-  avoidLeft = -1;
-  landLeft = -1;
-  surviveMinutes = -1;
-  surviveSeconds = -1;
-  minuteStart = 0;
-}
-
-}  // namespace
 
 void initVariables() {
   logStep("initVariables - erasing old variables");
@@ -54,7 +30,8 @@ void initVariables() {
   pythagoreanSum = 0;
   loadSamples();
   loadPictures();
-  resetLevelFields();
+  setLevelFields(LevelHead());
+  minuteStart = 0;
 }
 
 }  // namespace glonks

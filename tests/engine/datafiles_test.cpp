@@ -70,6 +70,14 @@ TEST_F(DataFilesTest, ArcadeLevelFillsEveryField) {
     levelFrom("1000\nT\nN\n1\n-1,-1,-1\n" + goals, True);
     EXPECT_EQ((Numbers{limitOn, surviveOn, avoidOn, landOn}), on) << goals;
   }
+  // One that ends too early, in its goals or in its pieces, changes nothing.
+  const auto before = gameState();
+  for (const std::string rest : {"5,Rock,70,3,30\n",
+                                 "5,Rock,70,3,30,3,30,2,Rock,2,Rock\nRock,1,2,3,"
+                                 "Rock,1,4"}) {
+    EXPECT_PRED2(holds, errorOf([&] { levelFrom("900\nOther\nO\n2\n" + rest, True); }), "short");
+    EXPECT_EQ(gameState(), before) << rest;
+  }
 }
 
 TEST_F(DataFilesTest, FreestyleLevelTouchesNoGoalAndAnUnknownPieceShiftsTheEntriesAfterIt) {
