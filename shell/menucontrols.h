@@ -26,7 +26,7 @@ inline std::array<Frame, pageCount> frame;
 // Page 0: choice of a game.
 inline Image Image7;       // background
 inline ComboBox tMode;     // modes, by their titles
-inline Label tModeDesc;    // description of the mode picked
+inline Label tModeDesc;    // description of the mode, or goals of the Arcade level, picked
 inline ListBox tLevels;    // what can be chosen within the mode; item data: the level's file
 inline Image main_BtnRun;  // the Play button
 

@@ -55,6 +55,7 @@ void layOutNewGame() {
   setBounds(tModeDesc, {240, 1080, 3135, 855});
   setBounds(tLevels, {240, 2520, 3135, 1785, 5});
   tMode.click = tMode_Click;
+  tLevels.click = tLevels_Click;
   layOutHotSpot(main_BtnRun, {2280, 4560, 1095, 495}, "Play", main_BtnRun_Click);
   layOutPage(newGamePage, Image7, ":/forms/page0.png",
              {&tMode, &tModeDesc, &tLevels, &main_BtnRun});

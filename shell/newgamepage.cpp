@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <string>
 
+#include "game/loading/levels.h"
 #include "game/model/model.h"
 #include "game/modes.h"
+#include "shell/goalwords.h"
 #include "shell/menucontrols.h"
 #include "shell/pages.h"
 #include "shell/saving.h"
@@ -54,6 +56,17 @@ void tMode_Click() {
     for (const OpenLevel& level : openLevels) addItem(tLevels, level.name, level.file);
     tellOfNewFiles();
   }
+}
+
+void tLevels_Click() {
+  const Mode mode = modeTitled(textOf(tMode));
+  tModeDesc.caption = mode.modeDescription;
+  if (mode.hasGoals != True) return;
+  succeeds([] {
+    const i32 file = tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
+    const std::string words = goalWords(readLevelHead(levelPath(file)));
+    if (!words.empty()) tModeDesc.caption = words;
+  });
 }
 
 void awardLevel() {

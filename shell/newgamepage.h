@@ -17,6 +17,10 @@ void listModes();
 // where that fails the player sees a message, and the list shows those that are known.
 void tMode_Click();
 
+// An item of tLevels was selected: the description of the mode gives way to the goals of an Arcade
+// level. If the level's file can't be read the player sees a message, and the description.
+void tLevels_Click();
+
 // Opens the level that the one just won names as its reward, if tLevels doesn't show it already:
 // stores it, so that it lasts whatever ends the program now, and congratulates the player. It stays
 // open also if it can't be stored.

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/errors.h"
-#include "base/text.h"
 #include "game/loading/levels.h"
 #include "game/loading/newgame.h"
 #include "game/loading/pieces.h"
@@ -59,7 +58,7 @@ bool hasLevel() { return gameMode.hasGoals == True || !gameMode.levelFiles.empty
 std::string pathOfLevel() {
   const auto& files = gameMode.hasGoals == True ? tLevels.itemData : gameMode.levelFiles;
   const i16 place = hasChoice(gameMode) ? gameItem : i16{0};
-  return "\\levels\\" + plainNumber(files[static_cast<std::size_t>(place)]);
+  return levelPath(files[static_cast<std::size_t>(place)]);
 }
 
 // Whether the level's file can be read; the player sees a message if not. Looked at before the

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QTextBrowser>
 
@@ -186,6 +187,60 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
     EXPECT_TRUE(holds(lastMessage, told) && window->isVisible() && !fake::windowOpen) << told;
   }
   EXPECT_EQ(stockOf(midnightBowlingItem), 1) << "a game that doesn't start takes no ticket";
+}
+
+TEST_F(MainWindowTest, AnArcadeLevelThatIsSelectedTellsItsGoals) {
+  ownFolderOfLinks("levels");
+  const std::string arcade = "Every level challenges";
+  const Texts table[] = {
+      // piece, score, limit, survival, avoid and land goal; the words
+      {"20,Gorgon,30000,-1,-1,-1,-1,-1,-1,20,Bowling Ball",
+       "Land 20 Bowling Balls.  Remove 20 Gorgons.  Score 30000 points."},
+      {"1,Gorgon,1,4,0,-1,-1,4,Rock,-1,-1",
+       "Remove at most 3 Rocks.  Remove 1 Gorgon.  Score 1 point.  You have 3 minutes 59."},
+      {"-1,-1,-1,-1,-1,2,0,1,Money,-1,-1", "Remove no Money pieces.  Survive 1 minute 59."},
+      {"2,Music,-1,1,30,-1,-1,-1,-1,1,Money",
+       "Land 1 Money piece.  Remove 2 Music Notes.  You have 59 seconds."},
+      {"1,Music,-1,-1,-1,-1,-1,2,Rock,-1,-1", "Remove at most 1 Rock.  Remove 1 Music Note."},
+      {"5,Nothing,0,1,0,0,59,-1,Rock,0,Rock", arcade},  // none of these is on, open or runs
+      {"5,Glonk", arcade}};
+  std::string open;
+  for (std::size_t level = 0; level < std::size(table); ++level) {
+    const std::string number = std::to_string(level);
+    putScrambled("\\levels\\" + number, "1000\r\nT\r\nN\r\n7\r\n" + table[level][0]);
+    open += "Level\r\n" + number + "\r\n";
+  }
+  putScrambled("\\init\\6537", open);
+  press("Start");
+  setText(tMode, "Arcade");
+  letFormMessagesThrough();
+  for (auto* list : window->findChildren<QListWidget*>()) {
+    if (list->isVisible()) list->setFocus();
+  }
+  for (const Texts& row : table) {
+    const auto goOn = [this] { QTest::keyClick(window->focusWidget(), Qt::Key_Down); };
+    row == table[6] ? answered(Qt::Key_Return, goOn) : goOn();
+    EXPECT_EQ(tModeDesc.caption.substr(0, std::max(row[1].size(), arcade.size())), row[1]);
+  }
+  EXPECT_PRED2(holds, lastMessage, "\"\\levels\\6\" is too short") << "and the menu stays";
+  for (const char* mode : {"B-Type", "Freestyle", "Arcade"}) {
+    setListIndex(tLevels, 0);
+    setText(tMode, mode);
+    const std::string own = tModeDesc.caption;
+    EXPECT_TRUE(tLevels.listIndex == -1 && holds(own, mode[0] == 'A' ? arcade : mode)) << own;
+    if (mode[0] != 'A') setListIndex(tLevels, 0);
+    EXPECT_EQ(tModeDesc.caption, own);
+  }
+  fake::windowMessages = [] {
+    if (++fake::clockNow % 2000 != 0) return;
+    levelWon = True, rewardLevelName = "Won", rewardLevelFile = 2;
+    fake::pressKeys({1});
+    answerNext(Qt::Key_Return);  // congratulations
+  };
+  setListIndex(tLevels, 2);
+  press("Play");
+  EXPECT_TRUE(tLevels.listIndex == 2 && tModeDesc.caption == table[2][1]) << tModeDesc.caption;
+  EXPECT_TRUE(tLevels.items.size() == 8 && tLevels.items.back() == "Won");
 }
 
 TEST_F(MainWindowTest, PrizesAreStoredBeforeTheyAreToldAndTicketsAndSongsComeAndGo) {
