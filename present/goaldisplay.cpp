@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "game/model/goallines.h"
 #include "game/model/model.h"
 #include "present/screen/display.h"
 #include "rules/levelgoals.h"
@@ -16,10 +17,6 @@ constexpr i32 linePitch = 15;
 
 void drawLine(i32 y, const std::string& text) { backBuffer->DrawText(linesX, y, text, False); }
 
-void drawCount(i32 y, const std::string& name, i16 count) {
-  drawLine(y, name + "s:  " + signedNumber(count));
-}
-
 void drawTime(i32 y, i16 minutes) {
   const i32 seconds = secondsLeft();
   drawLine(
@@ -32,20 +29,20 @@ void drawGoals() {
   i32 line = firstLineY;
   // Oddity 20: these two lie over each other, and so do the two timers.
   if (landOn == True) {
-    drawCount(firstLineY, landName, landLeft);
+    drawLine(firstLineY, countLine(landName, landLeft));
     line = firstLineY + linePitch;
   }
   if (avoidOn == True) {
-    drawCount(firstLineY, avoidName, avoidLeft);
+    drawLine(firstLineY, countLine(avoidName, avoidLeft));
     line = firstLineY + linePitch;
     testAvoidGoal();
   }
   if (goalPieceCount > -1) {
-    drawCount(line, goalPieceName, goalPieceCount);
+    drawLine(line, countLine(goalPieceName, goalPieceCount));
     line += linePitch;
   }
   if (goalScore > -1) {
-    drawLine(line, "Score: " + signedNumber(score) + "/" + signedNumber(goalScore));
+    drawLine(line, scoreLine(score, goalScore));
     line += linePitch;
   }
   if (limitOn == True && levelOver == False) {
