@@ -11,12 +11,13 @@
 
 #include "base/errors.h"
 #include "base/text.h"
+#include "game/model/goallines.h"
 #include "game/model/model.h"
 #include "game/model/piecefields.h"
-#include "present/effects/ticker.h"
 #include "storage/files/datafiles.h"
 #include "storage/files/fieldreader.h"
 #include "storage/files/textchannels.h"
+#include "tools/levelchain.h"
 #include "tools/levelreach.h"
 
 namespace glonks {
@@ -27,6 +28,10 @@ namespace fs = std::filesystem;
 constexpr i16 plainChannel = 5;
 constexpr std::size_t draws = 1000;
 constexpr double minute = 60'000;  // ms
+// What fits beside the counters of a game, in characters and in lines.
+constexpr std::size_t longestTitle = 22;
+constexpr std::size_t longestGoalLine = 28;
+constexpr int mostGoalLines = 3;
 
 // Levels of Freestyle's form: a pace and pieces, and nothing else.
 bool isPlainLevel(const std::string& name) {
@@ -42,11 +47,10 @@ struct Field {
   std::optional<i32> number;  // none if the text is no number that the field takes
 };
 
-// An Arcade level, as other files need to know it.
-struct Level {
-  std::string title;
-  Field rewardName;
-  Field reward;
+// Where an Arcade level names another.
+struct Link {
+  Field title;
+  Field number;
 };
 
 // A goal of so many pieces of a name.
@@ -67,6 +71,27 @@ struct Goals {
 
 bool isOn(const Field& goal) { return goal.number.value_or(-1) != -1; }
 
+// Whether the ticker has a glyph for it.
+bool isInTitles(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == ' ' ||
+         c == '!';
+}
+
+// The goals in words and without numbers.
+std::string wordsOf(const Goals& goals) {
+  std::string words;
+  const auto add = [&words](const Field& goal, const std::string& asked) {
+    if (isOn(goal)) words += (words.empty() ? "" : ", ") + asked;
+  };
+  add(goals.land.count, "land " + goals.land.piece.text);
+  add(goals.avoid.count, "avoid " + goals.avoid.piece.text);
+  add(goals.remove.count, "remove " + goals.remove.piece.text);
+  add(goals.score, "score");
+  add(goals.limit, "time limit");
+  add(goals.survive, "survive");
+  return words;
+}
+
 using Entry = std::array<Field, 4>;
 using Kind = std::pair<std::string, i32>;  // name and variety
 using Marks = std::array<bool, draws>;
@@ -83,7 +108,13 @@ class LevelCheck {
     }
     for (const fs::path& file : files) readPlain(file, &LevelCheck::checkLevel);
     readPlain(init_ / levelsFileName, &LevelCheck::checkOpenLevels);
-    for (const auto& [name, level] : levels_) checkLinks(name, level);
+    for (const auto& [name, link] : links_) {
+      file_ = folder_ / name;
+      checkLink(link.title, link.number);
+    }
+    for (const auto& [name, line, text] : checkChain(levels_, first_)) {
+      faults_.push_back({folder_ / name, line, text});
+    }
     return faults_;
   }
 
@@ -148,27 +179,34 @@ class LevelCheck {
 
   void checkLevel() {
     const std::string name = file_.filename().string();
-    Level* level = isPlainLevel(name) ? nullptr : &levels_[name];
+    level_ = isPlainLevel(name) ? nullptr : &levels_[name];
     const Field interval = toNumber<i32>(textOf("spawnInterval"));
     if (interval.number && *interval.number < 1) fault(interval, "isn't above 0.");
     if (interval.number && *interval.number > longestInterval) {
       fault(interval, "is above " + plainNumber(longestInterval) + ".");
     }
     Goals goals;
-    if (level != nullptr) goals = checkHead(*level);
+    if (level_ != nullptr) goals = checkHead(name);
     const LevelReach reach = checkEntries();
     checkReach(goals, interval, reach);
   }
 
-  Goals checkHead(Level& level) {
+  Goals checkHead(const std::string& name) {
     const Field title = textOf("levelTitle", readLine);
-    level.title = title.text;
+    level_->title = title.text;
+    level_->titleLine = title.line;
     if (trimmed(title.text).empty()) fault(title, "is empty.");
-    if (title.text.size() > longestMessage) {
-      fault(title, "is longer than " + std::to_string(longestMessage) + " characters.");
+    if (title.text.size() > longestTitle) {
+      fault(title, "is longer than " + std::to_string(longestTitle) + " characters.");
     }
-    level.rewardName = textOf("rewardLevelName", readLine);
-    level.reward = toNumber(textOf("rewardLevelFile", readLine));
+    if (!std::all_of(title.text.begin(), title.text.end(), isInTitles)) {
+      fault(title, "has other characters than letters, digits, blanks and \"!\".");
+    }
+    Link& link = links_[name];
+    link.title = textOf("rewardLevelName", readLine);
+    link.number = toNumber(textOf("rewardLevelFile", readLine));
+    level_->rewardLine = link.number.line;
+    if (link.number.number) level_->reward = plainNumber(*link.number.number);
     // The order of the file.
     Goals goals = {readCounted("goalPieceCount", "goalPieceName"),
                    readScore(),
@@ -176,7 +214,12 @@ class LevelCheck {
                    readTimer("surviveMinutes", "surviveSeconds"),
                    readCounted("avoidLeft", "avoidName"),
                    readCounted("landLeft", "landName")};
+    level_->asks = wordsOf(goals);
+    level_->goalsLine = goals.remove.count.line;
+    if (isOn(goals.avoid.count)) level_->uses[avoidUse] = goals.avoid.count.line;
+    if (isOn(goals.land.count)) level_->uses[landUse] = goals.land.count.line;
     checkTogether(goals);
+    checkLines(goals);
     return goals;
   }
 
@@ -248,6 +291,29 @@ class LevelCheck {
     if (isOn(remove.count) && isOn(avoid.count) && remove.piece.text == avoid.piece.text &&
         *remove.count.number >= *avoid.count.number) {
       fault(remove.count.line, "the avoid goal fails before the piece goal is reached.");
+    }
+  }
+
+  // The goals have to fit where a game shows them.
+  void checkLines(const Goals& goals) {
+    const auto& [remove, score, limit, survive, avoid, land] = goals;
+    const int lines = int{isOn(avoid.count) || isOn(land.count)} + int{isOn(remove.count)} +
+                      int{isOn(score)} + int{isOn(limit) || isOn(survive)};
+    if (lines > mostGoalLines) {
+      fault(remove.count.line, "more goals than the " + std::to_string(mostGoalLines) +
+                                   " lines that a game has for them.");
+    }
+    for (const Counted* goal : {&remove, &avoid, &land}) {
+      if (!isOn(goal->count)) continue;
+      checkLine(goal->piece, countLine(goal->piece.text, *goal->count.number));
+    }
+    if (isOn(score)) checkLine(score, scoreLine(*score.number, *score.number));
+  }
+
+  void checkLine(const Field& field, const std::string& text) {
+    if (text.size() > longestGoalLine) {
+      fault(field, "makes a line of more than " + std::to_string(longestGoalLine) +
+                       " characters: \"" + text + "\".");
     }
   }
 
@@ -335,6 +401,7 @@ class LevelCheck {
     }
     // With draw 0 alone a piece may not come at all: a higher slot that has no entry takes it.
     if (piece != pieces_.end() && high.number != 0) reach.add(*piece);
+    if (level_ != nullptr) level_->uses.emplace(entry[0].text, line);
     if (!low.number || !high.number) return;
     if (*low.number < 0 || *high.number < *low.number || *high.number >= i32{draws}) {
       fault(line, "spawnLow and spawnHigh are no range from 0 to 999.");
@@ -373,27 +440,15 @@ class LevelCheck {
     }
   }
 
+  // The first level, and no other.
   void checkOpenLevels() {
-    while (!endOfFile(plainChannel)) {
-      const Field title = textOf("level name", readLine);
-      const Field number = toNumber(textOf("level number", readLine));
-      checkLink(title, number);
-      markOpenable(number);
+    const Field title = textOf("level name", readLine);
+    const Field number = toNumber(textOf("level number", readLine));
+    checkLink(title, number);
+    if (number.number) first_ = plainNumber(*number.number);
+    if (!endOfFile(plainChannel)) {
+      fault(channelLine(plainChannel), "only the first level of the chain may be open at first.");
     }
-  }
-
-  // Marks the level of a number and all that winning opens from there on.
-  void markOpenable(const Field& number) {
-    if (!number.number) return;
-    const auto found = levels_.find(plainNumber(*number.number));
-    if (found == levels_.end() || !openable_.insert(found->first).second) return;
-    markOpenable(found->second.reward);
-  }
-
-  void checkLinks(const std::string& name, const Level& level) {
-    file_ = folder_ / name;
-    checkLink(level.rewardName, level.reward);
-    if (openable_.count(name) == 0) fault(1, "no level that can be reached opens this one.");
   }
 
   fs::path init_;
@@ -401,9 +456,11 @@ class LevelCheck {
   fs::path file_;  // the file that faults are about
   i32 line_ = 1;   // where the field stands that is being read, or was read last
   std::vector<LevelFault> faults_;
-  std::vector<Piece> pieces_;            // by slot, with what their files say of the rules
-  std::map<std::string, Level> levels_;  // Arcade levels by file name
-  std::set<std::string> openable_;       // the file names of those that can be opened
+  std::vector<Piece> pieces_;          // by slot, with what their files say of the rules
+  ChainLevels levels_;                 // the Arcade levels
+  ChainLevel* level_ = nullptr;        // the one that is being read; none for a plain level
+  std::map<std::string, Link> links_;  // by file name
+  std::string first_;                  // the file name of the level that is open at first
 };
 
 }  // namespace
