@@ -8,12 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "bench/headlessgame.h"
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "game/modes.h"
+#include "player/player.h"
 #include "rules/bowlingscore.h"
 #include "rules/lane.h"
+#include "tests/headless/headlessgame.h"
 
 // Whether Midnight Bowling rewards skill: the points of a player who never presses a key, and of
 // one who slides rows for the ball that is coming, at several speeds.
@@ -79,10 +80,15 @@ double expectedFall(const Pins& pins, i32 column) {
   return fall;
 }
 
+struct Prospect {
+  Plan plan;
+  double fall = 0;  // Pins, less the cost of keys
+};
+
 // The best turn of one row, with up to `more` turns of other rows after it, for a ball in a column.
-Plan bestPlan(const Pins& pins, i32 column, i32 pointer, i32 keysLeft, i32 more) {
+Prospect bestTurn(const Pins& pins, i32 column, i32 pointer, i32 keysLeft, i32 more) {
   constexpr double keyCost = 0.05;
-  Plan best{pointer, 0, expectedFall(pins, column)};
+  Prospect best{{pointer, 0}, expectedFall(pins, column)};
   for (i32 row = 0; row < 4; ++row) {
     const i32 way = std::abs(row - pointer);
     for (const i32 direction : {1, -1}) {
@@ -90,29 +96,31 @@ Plan bestPlan(const Pins& pins, i32 column, i32 pointer, i32 keysLeft, i32 more)
       for (i32 steps = 1; steps <= columnCount / 2 && steps + way <= keysLeft; ++steps) {
         turn(turned, row, direction);
         const double rest =
-            more > 0 ? bestPlan(turned, column, row, keysLeft - steps - way, more - 1).worth
+            more > 0 ? bestTurn(turned, column, row, keysLeft - steps - way, more - 1).fall
                      : expectedFall(turned, column);
-        const double worth = rest - keyCost * (steps + way);
-        if (worth > best.worth) best = {row, direction * steps, worth};
+        const double fall = rest - keyCost * (steps + way);
+        if (fall > best.fall) best = {{row, direction * steps}, fall};
       }
     }
   }
   return best;
 }
 
-class Player {
+class Bowler {
  public:
-  explicit Player(i32 keyPause) : keyPause_(keyPause) {}
+  explicit Bowler(i32 keyPause) : keyPause_(keyPause) {}
 
-  void play() {
+  i32 nextKey() {
     const Piece* ball = ballInFlight();
     if (ball == nullptr) plan_ = {};
-    if (ball == nullptr || gameTick() < lastKeyTick + keyPause_ || isSettling()) return;
+    if (keyPause_ == 0 || ball == nullptr || gameTick() < lastKeyTick + keyPause_ || isSettling()) {
+      return 0;
+    }
     if (plan_.steps == 0) {
       const i32 timeLeft = std::max(0, 180 - ball->y) * 26 + 300;
-      plan_ = bestPlan(pinsInView(), ball->column, selectedRow, timeLeft / keyPause_, 1);
+      plan_ = bestTurn(pinsInView(), ball->column, selectedRow, timeLeft / keyPause_, 1).plan;
     }
-    pressNextKey(plan_);
+    return nextKeyOf(plan_);
   }
 
  private:
@@ -125,12 +133,9 @@ void report(const std::string& name, i32 keyPause, i32 games) {
   double sum = 0, seconds = 0;
   i32 lowest = perfectGame, highest = 0, strikes = 0;
   for (i32 game = 1; game <= games; ++game) {
-    Player player(keyPause);
-    seconds += playHeadless(modeTitled("Midnight Bowling"), 0, 0, game,
-                            [&] {
-                              if (keyPause > 0) player.play();
-                            }) /
-               1000.0;
+    Bowler player(keyPause);
+    const HeadlessGame seeded = {modeTitled("Midnight Bowling"), 0, 0, game};
+    seconds += playHeadless(seeded, [&](i32) { return player.nextKey(); }).length / 1000.0;
     const i32 points = bowlingGame(bowlingRolls).points;
     sum += points;
     lowest = std::min(lowest, points);
