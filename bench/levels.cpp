@@ -15,6 +15,7 @@
 #include "game/model/model.h"
 #include "game/modes.h"
 #include "player/player.h"
+#include "shell/goalwords.h"
 #include "storage/files/datafiles.h"
 #include "tests/headless/headlessgame.h"
 
@@ -28,6 +29,7 @@ using namespace glonks;
 struct Contest {
   std::string title;
   HeadlessGame game;
+  std::string goal = {};
 };
 
 std::vector<Contest> allContests() {
@@ -38,7 +40,8 @@ std::vector<Contest> allContests() {
     all.push_back({bType.levelItems[i], {bType, bType.levelFiles[i], item}});
   }
   for (const i32 level : arcadeChain()) {
-    all.push_back({readLevelHead(levelPath(level)).title, {modeTitled("Arcade"), level}});
+    const LevelHead head = readLevelHead(levelPath(level));
+    all.push_back({head.title, {modeTitled("Arcade"), level}, goalWords(head)});
   }
   return all;
 }
@@ -99,7 +102,8 @@ void report(const Contest& contest, const Strength& strength, i32 games, i32 fir
   std::sort(tally.points.begin(), tally.points.end());
   double points = 0;
   for (const i32 each : tally.points) points += each;
-  std::cout << contest.game.level << ',' << contest.title << ',' << strength.name << ',' << games;
+  std::cout << contest.game.level << ',' << contest.title << ',' << contest.goal << ','
+            << spawnInterval << ',' << strength.name << ',' << games;
   for (const Ending ending : {Ending::won, Ending::fullColumn, Ending::timeExpired,
                               Ending::avoidGoal, Ending::brokenOff}) {
     std::cout << ',' << tally.endings[ending];
@@ -125,7 +129,8 @@ int main(int argc, char** argv) {
   try {
     setUpHeadless(argv[1]);
     std::cout
-        << "level,title,player,games,won,full column,time,avoid goal,broken off,mean seconds,"
+        << "level,title,goal,spawn interval,player,games,won,full column,time,avoid goal,broken "
+           "off,mean seconds,"
            "mean points,points of the best third,mean credits,mean notes,all kinds in 3 minutes,"
            "thousand frames a second\n";
     for (const Contest& contest : allContests()) {

@@ -296,7 +296,7 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
       if (++passes != 3000) return;
       bank = game;
       fake::pressKeys({1});
-      if (game == 2) score = 30000;
+      if (game == 2) score = 100000;
       answerNext(Qt::Key_Return, QString::fromUtf8("Zoë"));
     };
     press("Play");
@@ -305,17 +305,17 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_EQ(bank, game) << "credits are stored";
     EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
-  EXPECT_PRED2(holds, scores_freestyle.items[0], "30000   \tZo\xeb");
+  EXPECT_PRED2(holds, scores_freestyle.items[0], "100000   \tZo\xeb");
   choose("&New");
   fake::windowMessages = [] {
-    score = 40000, bank = 3;
+    score = 200000, bank = 3;
     throw std::length_error("no room");
   };
   EXPECT_THROW(press("Play"), std::length_error);
   storeAtOnce();
   loadStore();
   loadScores();
-  EXPECT_TRUE(bank == 3 && holds(scores_freestyle.items[0], "40000   \t")) << "of a failed run";
+  EXPECT_TRUE(bank == 3 && holds(scores_freestyle.items[0], "200000   \t")) << "of a failed run";
   setText(tMode, "B-Type");
   for (const auto& [grade, prize] : {std::pair<i16, i16>{0, 3}, {1, 6}, {2, 12}}) {
     tLevels.listIndex = grade;
