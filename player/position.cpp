@@ -80,7 +80,9 @@ void remove(Position& position, const Cells& cells, Gain& gain) {
   gain.costly += countOf(both(cells, position[costlyTrait]));
   gain.harmful += countOf(both(cells, position[harmfulTrait]));
   for (Cells& trait : position.traits) {
-    for (std::size_t row = 0; row < rowCount; ++row) trait[row] &= static_cast<RowBits>(~cells[row]);
+    for (std::size_t row = 0; row < rowCount; ++row) {
+      trait[row] &= static_cast<RowBits>(~cells[row]);
+    }
   }
 }
 
