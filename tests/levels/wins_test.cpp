@@ -25,5 +25,14 @@ TEST_F(RecordedWins, EachLevelIsWonByItsRecordedGame) {
   }
 }
 
+TEST_F(RecordedWins, ARecordThatIsNoneIsNamedWithItsLine) {
+  for (const std::string line : {"12 Sideways", "x Up", "12 Up Up", "seed 0"}) {
+    putBytes("\\record", "seed 3\nlength 90\n" + line + "\n");
+    EXPECT_PRED2(holds, errorOf([] { readRecordedGame(nativePath("\\record")); }),
+                 "record, line 3: no line of a recorded game: " + line);
+  }
+  EXPECT_PRED2(holds, errorOf([] { readRecordedGame("none"); }), "none can't be opened.");
+}
+
 }  // namespace
 }  // namespace glonks

@@ -49,14 +49,15 @@ class PlayerData : public TempFolder {
   }
 };
 
-const std::string table = "1000,A\n900,B\n800,C\n700,D\n600,E\n500,F\n400,G\n300,H\n200,I\n100,J\n";
+const std::string table =
+    "20000,A\n18000,B\n16000,C\n14000,D\n12000,E\n10000,F\n8000,G\n6000,H\n4000,I\n2000,J\n";
 
 TEST_F(PlayerData, ScoresEnterTheirPlaceWithAStorableName) {
   const std::tuple<i32, const char*, std::size_t, std::string> entries[] = {
       // score, typed, where in the table, line there
-      {100, "as the last", table.size() - 6, "100,as the last\n"},
-      {1000, "as the first", 0, "1000,as the first\n"},
-      {750, "a,\"b\"\tc\x7f", 19, "750,a;'b' c\n"}};
+      {2000, "as the last", table.size() - 7, "2000,as the last\n"},
+      {20000, "as the first", 0, "20000,as the first\n"},
+      {15000, "a,\"b\"\tc\x7f", 24, "15000,a;'b' c\n"}};
   for (const auto& [points, typed, at, line] : entries) {
     fake::resetToolkit();
     putPlain(scoresFile, table);
@@ -66,11 +67,11 @@ TEST_F(PlayerData, ScoresEnterTheirPlaceWithAStorableName) {
     fake::asked = [] { loadScores(); };  // the entry is there before its name
     enterHighScore();
     std::string expected = table;
-    expected.insert(at, line).resize(table.size() - 6 + line.size());
+    expected.insert(at, line).resize(table.size() - 7 + line.size());
     EXPECT_EQ(plainOf(scoresFile), expected);
   }
-  EXPECT_EQ(placeOfScore(199), highScoreCount);
-  EXPECT_EQ(scores_freestyle.items[3], "04.    750   \ta;'b' c");
+  EXPECT_EQ(placeOfScore(3999), highScoreCount);
+  EXPECT_EQ(scores_freestyle.items[3], "04.    15000   \ta;'b' c");
 }
 
 // By the leading numeric part, halves to even, to the nearest allowed value.
@@ -117,9 +118,11 @@ TEST_F(PlayerData, AwardedLevelIsAddedOnceToFileAndList) {
 }
 
 const std::string withoutD =
-    "1000,A\n900,B\n800,C\n600,E\n500,F\n500,Sleepy Moss\n400,G\n300,H\n200,I\n100,J\n";
+    "20000,A\n18000,B\n16000,C\n12000,E\n10000,F\n10000,Sleepy "
+    "Moss\n8000,G\n6000,H\n4000,I\n2000,J\n";
 const std::string withoutJ =
-    "1000,A\n900,B\n800,C\n700,D\n600,E\n500,F\n500,Sleepy Moss\n400,G\n300,H\n200,I\n";
+    "20000,A\n18000,B\n16000,C\n14000,D\n12000,E\n10000,F\n10000,Sleepy "
+    "Moss\n8000,G\n6000,H\n4000,I\n";
 const std::string goods = "7\n2\n3\n4\n5\n6\n0\n1\n0\n8\nEmbers\n40\n";  // after the bank
 
 // A player's file, its plain lines as they are found ("missing": there is none, "first": what the
@@ -133,7 +136,7 @@ const std::tuple<const PlayersFile&, std::string, std::size_t, const char*, std:
         {scoresFile, table, 3, "x", withoutD, "9 of its 10 scores"},
         {scoresFile, table, 3, "1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.1.", withoutD,
          "9 of its 10 scores"},
-        {scoresFile, table + "50,K\n40,L\n", 11, "x", table, "10 of its 10 scores"},
+        {scoresFile, table + "1000,K\n800,L\n", 11, "x", table, "10 of its 10 scores"},
         {storeFile, "77\n7\n2", 0, nullptr, "77\n7\n2\n1\n0\n0\n1\n0\n0\n0\n0\nCells\n70\n",
          "3 of its 13 values"},
         {storeFile, "77\n" + goods, 0, "7a.1.", "5\n" + goods, "12 of its 13 values"},
@@ -212,7 +215,7 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   setText(tMode, "Arcade");
   block(true);
   fake::typed = "Newcomer";
-  score = 30000;
+  score = 130000;
   enterHighScore();
   rewardLevelName = "Reward";
   rewardLevelFile = 77;
@@ -229,7 +232,7 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   fake::asked = [&] { block(false); };
   purchase_Click(slammerItem);
   EXPECT_EQ(plainOf(storeFile).substr(0, 3), "75\n");
-  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "30000,Newcomer\n");
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 16), "130000,Newcomer\n");
   EXPECT_EQ(plainOf(levelsFile), "First Steps\n3101\nReward\n 77 \n");
 
   // Each file by itself, at closing and at the end of a run that fails.
@@ -243,13 +246,13 @@ TEST_F(PlayerData, WhatCantBeStoredStaysInMemoryAndLaterSavesTryAgain) {
   saveSilently();
   EXPECT_EQ(plainOf(storeFile).substr(0, 3), "79\n");
   block(false);
-  highScores[0].points = 35000;
+  highScores[0].points = 135000;
   owe(scoresFile);
   mExit_Click();
-  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "35000,Newcomer\n");
-  highScores[0].points = 40000;
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 16), "135000,Newcomer\n");
+  highScores[0].points = 140000;
   fMain_Form_Unload();
-  EXPECT_EQ(plainOf(scoresFile).substr(0, 15), "40000,Newcomer\n");
+  EXPECT_EQ(plainOf(scoresFile).substr(0, 16), "140000,Newcomer\n");
 }
 
 TEST_F(PlayerData, AWonLevelIsStoredIfItsGameCantGoOn) {
