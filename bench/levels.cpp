@@ -19,9 +19,10 @@
 #include "storage/files/datafiles.h"
 #include "tests/headless/headlessgame.h"
 
-// How hard the game is: two playing programs play Freestyle, the grades of B-Type and each Arcade
-// level some times. One line of comma-separated values for each of them and each player.
-// bench_levels <game folder> [games] [mode or level's number] [player] [first seed]
+// How hard the game is: two playing programs, and one that presses no key, play Freestyle, the
+// grades of B-Type and each Arcade level some times. One line of comma-separated values for each of
+// them and each player. bench_levels <game folder> [games] [mode or level's number] [player] [first
+// seed]
 namespace {
 
 using namespace glonks;
@@ -136,7 +137,7 @@ int main(int argc, char** argv) {
     for (const Contest& contest : allContests()) {
       const bool asked = what.empty() || what == contest.game.mode.modeTitle ||
                          what == std::to_string(contest.game.level);
-      for (const Strength* strength : {&beginner, &good}) {
+      for (const Strength* strength : {&idle, &beginner, &good}) {
         if (asked && (who.empty() || who == strength->name)) {
           report(contest, *strength, games, firstSeed);
         }

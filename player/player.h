@@ -17,6 +17,8 @@ struct Strength {
   Foresight foresight;
 };
 
+// Presses nothing: what a level does by itself.
+inline constexpr Strength idle = {"no key", {.keyPause = 450, .turns = 0}};
 inline constexpr Strength beginner = {"beginner", {.keyPause = 450}};
 inline constexpr Strength good = {"good",
                                   {.keyPause = 250,
