@@ -6,7 +6,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 from pictures import creatures, effects, frames, glyphs, menu, pieces, plates, screens, sidewindows  # noqa: E402
-from pictures.canvas import draw_icon, draw_keyed  # noqa: E402
+from pictures.canvas import draw_icon, draw_sharp  # noqa: E402
 
 ROOT = Path(__file__).resolve().parent.parent
 
@@ -18,25 +18,25 @@ def save(picture, name, folder="assets"):
 
 
 def image(name, picture):
-    save(picture, f"images/{name}.bmp")
+    save(picture, f"images/{name}.png")
 
 
 def main():
     for name, draw in {**pieces.PIECES, **pieces.FRUIT}.items():
-        image(name, draw_keyed(draw))
+        image(name, draw_sharp(draw))
     for phase in range(len(creatures.FROG_PHASES)):
-        image(f"frog{phase + 1:02}", draw_keyed(partial(creatures.frog, phase=phase), 100, 100))
-    image("pointer", draw_keyed(effects.pointer, 70, 45))
-    image("zap_h", draw_keyed(effects.zap_horizontal, 80, 80))
-    image("zap_v", draw_keyed(effects.zap_vertical, 80, 80))
-    image("explosion", draw_keyed(effects.explosion, 300, 300))
+        image(f"frog{phase + 1:02}", draw_sharp(partial(creatures.frog, phase=phase), 100, 100))
+    image("pointer", draw_sharp(effects.pointer, 70, 45))
+    image("zap_h", draw_sharp(effects.zap_horizontal, 80, 80))
+    image("zap_v", draw_sharp(effects.zap_vertical, 80, 80))
+    image("explosion", draw_sharp(effects.explosion, 300, 300))
     for name, picture in glyphs.glyph_pictures().items():
         image(name, picture)
     for name in frames.MOODS:
         image(name, frames.frame(name))
     image("loading", screens.loading())
     for (theme, name), picture in plates.theme_pictures().items():
-        save(picture, f"themes/{theme}/{name}.bmp")
+        save(picture, f"themes/{theme}/{name}.png")
     for name, draw in {**menu.PAGES, **sidewindows.WINDOWS}.items():
         save(draw(), f"forms/{name}.png")
     save(draw_icon(creatures.glonk_round, 64), "forms/icon.png")

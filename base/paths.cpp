@@ -22,6 +22,11 @@ std::filesystem::path nativePath(std::string_view path) {
   return folder / std::filesystem::path(std::u8string(relative.begin(), relative.end()));
 }
 
+std::string pictureFileOf(const std::string& path) {
+  const std::string png = path.substr(0, path.rfind('.')) + ".png";
+  return isRegularFile(nativePath(png)) ? png : path;
+}
+
 bool isRegularFile(const std::filesystem::path& path) {
   std::error_code ignored;
   return std::filesystem::is_regular_file(path, ignored);

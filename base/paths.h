@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 // The program's folder, and the one way from the paths that the game uses to those of the system.
@@ -14,6 +15,10 @@ const std::filesystem::path& programFolder();
 // program's folder, its backslashes separating the folders and its text in Windows-1252; any other
 // is taken as it stands.
 std::filesystem::path nativePath(std::string_view path);
+
+// The game path of the file that a picture's path stands for: the PNG beside a bitmap of that name,
+// or in its place, before the bitmap itself.
+std::string pictureFileOf(const std::string& path);
 
 // Whether there is a file of stored bytes at a path of the system, or a link to one: no folder,
 // device or pipe, which could be read for ever or not at all.

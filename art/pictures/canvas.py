@@ -3,18 +3,18 @@ import cairo
 import numpy as np
 from PIL import Image
 
-KEY = (255, 255, 255)   # transparent wherever a picture is drawn keyed
-BRIGHTEST = 250         # no drawn pixel may ever equal the key
+DENSITY = 2     # pixels of a game picture to a logical one, each way
 
 
 class Canvas:
-    """A transparent sheet; `ctx` is in final pixels whatever the scale."""
+    """A transparent sheet of logical pixels, drawn `scale` times as fine as the picture that comes of it."""
 
-    def __init__(self, width, height, scale=4):
+    def __init__(self, width, height, scale=4, density=1):
         self.scale = scale
-        self.surface = cairo.ImageSurface(cairo.FORMAT_ARGB32, width * scale, height * scale)
+        fine = scale * density
+        self.surface = cairo.ImageSurface(cairo.FORMAT_ARGB32, width * fine, height * fine)
         self.ctx = cairo.Context(self.surface)
-        self.ctx.scale(scale, scale)
+        self.ctx.scale(fine, fine)
         self.ctx.set_line_join(cairo.LINE_JOIN_ROUND)
         self.ctx.set_line_cap(cairo.LINE_CAP_ROUND)
 
@@ -28,17 +28,6 @@ class Canvas:
         colour = bgra[..., 2::-1] * 255.0 / np.maximum(alpha, 1)
         return colour.clip(0, 255), alpha[..., 0]
 
-    def keyed(self):
-        """Hard-edged picture on the key colour."""
-        colour, alpha = self._reduced()
-        pixels = colour.clip(0, BRIGHTEST).round().astype(np.uint8)
-        drawn = alpha >= 127.5
-        around = np.pad(drawn, 1)
-        pinhole = around[:-2, 1:-1] & around[2:, 1:-1] & around[1:-1, :-2] & around[1:-1, 2:]
-        drawn |= pinhole & (alpha > 0)      # a lone gap would only look like a white speck
-        pixels[~drawn] = KEY
-        return Image.fromarray(pixels, "RGB")
-
     def transparent(self):
         """The drawing alone, with soft edges."""
         colour, alpha = self._reduced()
@@ -47,7 +36,7 @@ class Canvas:
 
     def indexed(self):
         """Whole picture in 256 colours of its own: as good to the eye, at a third of the size."""
-        return self.opaque().quantize(256, method=Image.Quantize.LIBIMAGEQUANT)
+        return in_few_colours(self.opaque())
 
     def opaque(self, grain=0.0, seed=1):
         """Whole picture; a little grain hides the banding of dark gradients."""
@@ -55,9 +44,13 @@ class Canvas:
         return to_image(colour, grain, seed)
 
 
+def in_few_colours(picture):
+    return picture.quantize(256, method=Image.Quantize.LIBIMAGEQUANT)
+
+
 def to_image(colour, grain=0.0, seed=1):
     noise = np.random.default_rng(seed).normal(0, 1, colour.shape[:2])[..., None] * grain
-    return Image.fromarray((colour + noise).clip(0, BRIGHTEST).round().astype(np.uint8), "RGB")
+    return Image.fromarray((colour + noise).clip(0, 255).round().astype(np.uint8), "RGB")
 
 
 def draw_icon(draw, size):
@@ -68,7 +61,8 @@ def draw_icon(draw, size):
     return canvas.transparent()
 
 
-def draw_keyed(draw, width=90, height=90):
-    canvas = Canvas(width, height)
+def draw_sharp(draw, width=90, height=90):
+    """A picture of the game, with soft edges."""
+    canvas = Canvas(width, height, density=DENSITY)
     draw(canvas.ctx)
-    return canvas.keyed()
+    return canvas.transparent()

@@ -4,7 +4,7 @@ import random
 import numpy as np
 from PIL import Image
 from . import creatures, glyphs, pieces
-from .canvas import KEY, Canvas
+from .canvas import DENSITY, Canvas, in_few_colours
 from .shapes import box, circle, darker, fill, lighter, line, polygon, rgb, sloped, star, stroke
 
 WIDTH, HEIGHT = 1024, 768
@@ -106,7 +106,7 @@ def frame(name):
     ground_text, accent_text, ornament, figures, counters = MOODS[name]
     ground, accent = rgb(ground_text), rgb(accent_text)
     rng = random.Random(name)
-    canvas = Canvas(WIDTH, HEIGHT, 2)
+    canvas = Canvas(WIDTH, HEIGHT, 2, DENSITY)
     ctx = canvas.ctx
     sloped(ctx, box(0, 0, WIDTH, HEIGHT), lighter(ground, .06), darker(ground, .6), 0)
     for _ in range(46):     # right band and the right part of the bottom band
@@ -127,7 +127,7 @@ def frame(name):
     for x, draw in counters + COUNTED:
         pieces.place(ctx, draw, x + ICON_SHIFT, ICON_MIDDLE - ICON / 2, ICON)
     stroke(ctx, box(1, 1, WIDTH - 2, HEIGHT - 2, 4), darker(ground, .8), 2)
-    pixels = np.array(canvas.opaque(.8))
+    pixels = np.array(canvas.opaque(1.2).convert("RGBA"))
     x0, y0, x1, y1 = WINDOW
-    pixels[y0:y1 + 1, x0:x1 + 1] = KEY
-    return Image.fromarray(pixels)
+    pixels[DENSITY * y0:DENSITY * (y1 + 1), DENSITY * x0:DENSITY * (x1 + 1)] = 0
+    return in_few_colours(Image.fromarray(pixels))

@@ -6,7 +6,7 @@ degrees; the arc runs backwards when the second angle is the smaller.
 """
 import math
 import cairo
-from .canvas import Canvas
+from .canvas import Canvas, draw_sharp
 from .shapes import darker, lighter, rgb
 
 STROKES = {
@@ -163,9 +163,8 @@ def lettering(ctx, text, x, y, unit, weight, colours, outline=3.0, gap=None, ker
 
 def glyph_pictures():
     """The ticker's letters, by file name."""
-    pictures = {"Space": Canvas(50, 50).keyed()}
+    pictures = {"Space": draw_sharp(lambda ctx: None, 50, 50)}
     for name in TICKER:
-        canvas = Canvas(50, 50)
-        letter(canvas.ctx, name, 13.6, 7.9, 5.7, 7.8, rgb("ffb52e"), 2.8)
-        pictures[name] = canvas.keyed()
+        pictures[name] = draw_sharp(
+            lambda ctx, name=name: letter(ctx, name, 13.6, 7.9, 5.7, 7.8, rgb("ffb52e"), 2.8), 50, 50)
     return pictures

@@ -2,7 +2,7 @@
 import colorsys
 import numpy as np
 from PIL import Image
-from .canvas import to_image
+from .canvas import DENSITY, in_few_colours, to_image
 
 WIDTH, HEIGHT = 500, 350
 
@@ -10,7 +10,7 @@ WIDTH, HEIGHT = 500, 350
 def noise(rng, cells):
     """Smooth noise in -1..1 with features about 1/cells of the width."""
     grid = rng.uniform(-1, 1, (max(2, cells * HEIGHT // WIDTH) + 2, cells + 2)).astype(np.float32)
-    return np.asarray(Image.fromarray(grid).resize((WIDTH, HEIGHT), Image.BICUBIC))
+    return np.asarray(Image.fromarray(grid).resize((DENSITY * WIDTH, DENSITY * HEIGHT), Image.BICUBIC))
 
 
 def layered(rng, cells, octaves):
@@ -32,8 +32,13 @@ def ramp(t, stops):
     return np.stack([np.interp(t, at, [s[c] for s in stops]) for c in range(3)], axis=-1)
 
 
+def grid():
+    """y and x of each pixel."""
+    return np.mgrid[0:HEIGHT:1 / DENSITY, 0:WIDTH:1 / DENSITY].astype(np.float32)
+
+
 def vignette():
-    y, x = np.mgrid[0:HEIGHT, 0:WIDTH]
+    y, x = grid()
     d = np.hypot((x - WIDTH * .45) / WIDTH, (y - HEIGHT * .42) / HEIGHT)
     return (1.08 - .62 * d ** 1.6)[..., None]
 
@@ -41,7 +46,7 @@ def vignette():
 def cells(seed, h):
     """Soft living cells: walls, lit membranes and a nucleus in each."""
     rng = np.random.default_rng(seed)
-    y, x = np.mgrid[0:HEIGHT, 0:WIDTH].astype(np.float32)
+    y, x = grid()
     x, y = x + 13 * layered(rng, 5, 2), y + 13 * layered(rng, 5, 2)
     pitch = 76
     centres = np.array([(cx + (ry % 2) * pitch / 2 + rng.uniform(-15, 15), ry * pitch * .87 + rng.uniform(-14, 14))
@@ -63,19 +68,19 @@ def cells(seed, h):
     nucleus = 1 - step(.75, 1.05, np.hypot(dx - 3, (dy - 2) * 1.15) / rng.uniform(8, 13, len(centres))[owner])
     picture += (nucleus * (.35 - (dx + dy) / 45))[..., None] * hue(h + .09, .55, .3)
     picture += (noise(rng, 60) * 4 * inside)[..., None]
-    return to_image(picture * vignette() * .84, 1.2, seed)
+    return in_few_colours(to_image(picture * vignette() * .84, 1.6, seed))
 
 
 def embers(seed, h, heat, scale):
     """Dark crust drifting on a glow, with sparks that rise from it."""
     rng = np.random.default_rng(seed)
-    y, x = np.mgrid[0:HEIGHT, 0:WIDTH].astype(np.float32)
+    y, x = grid()
     a, b = layered(rng, scale, 4), layered(rng, scale, 4)
     crack = np.maximum(np.exp(-(np.abs(a) * 7.5) ** .9), .7 * np.exp(-(np.abs(b) * 9) ** .9))
     drift = step(-.7, .8, layered(rng, 2, 2) + (y / HEIGHT - .5) * .9)
     glow = crack * (.15 + heat * drift) + .18 * heat * drift
     relief = layered(rng, 14, 4)
-    slope = np.roll(relief, (-2, -2), (0, 1)) - relief
+    slope = np.roll(relief, (-2 * DENSITY, -2 * DENSITY), (0, 1)) - relief
     stops = [hue(h + .01, .7, .12), hue(h, .86, .26), hue(h + .02, .88, .56), hue(h + .06, .8, .82), hue(h + .1, .5, .95)]
     picture = ramp(np.clip(glow, 0, 1), stops) * (1 + .55 * slope * (1 - crack))[..., None].clip(.3, 1.7)
     for _ in range(46):
@@ -83,7 +88,7 @@ def embers(seed, h, heat, scale):
         spot = np.exp(-((x - sx) ** 2 + ((y - sy) * .7) ** 2) / (2 * r * r))
         halo = np.exp(-((x - sx) ** 2 + (y - sy) ** 2) / (2 * (r * 5) ** 2))
         picture += (.75 * spot)[..., None] * hue(h + .1, .45, .8) + (.17 * halo)[..., None] * hue(h + .03, .85, .7)
-    return to_image(picture * vignette() * .8, 1.2, seed)
+    return in_few_colours(to_image(picture * vignette() * .8, 1.6, seed))
 
 
 def theme_pictures():

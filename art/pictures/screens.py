@@ -3,7 +3,7 @@ import math
 import random
 import cairo
 from . import creatures, pieces
-from .canvas import Canvas
+from .canvas import DENSITY, Canvas, in_few_colours
 from .glyphs import lettering, text_width
 from .shapes import circle, ellipse, fill, rgb, stroke
 
@@ -34,7 +34,7 @@ def logo(ctx, middle, y, unit, kern={}):
 
 
 def loading():
-    canvas = Canvas(1024, 768, 2)
+    canvas = Canvas(1024, 768, 2, DENSITY)
     ctx = canvas.ctx
     backdrop(ctx, 1024, 768, 540, 430, rgb("34508c"))
     rng = random.Random(3)
@@ -52,4 +52,4 @@ def loading():
     front = ["bomb", "glonk_01", "glonk_02", "glonk_03", "glonk_04", "diamond"]
     for i, name in enumerate(front):
         pieces.place(ctx, p[name], 76 + i * 150, 566 - 14 * math.sin(i / 5 * math.pi), 138, turn=(-6, 5, -3, 4, -5, 6)[i])
-    return canvas.opaque(.9)
+    return in_few_colours(canvas.opaque(1.2))

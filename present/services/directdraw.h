@@ -27,8 +27,9 @@ class DirectDraw7 {
   // any other description.
   Surface CreateSurface(const SurfaceDesc& desc);
 
-  // A surface with the picture of a bitmap file, of the bitmap's own size; `desc` takes that size.
-  // Raises fileNotFound, fileAccess or badFile, naming the file.
+  // A surface with the picture of a bitmap file, of the bitmap's own size, or of the PNG that
+  // stands beside it or in its place, drawn at twice the logical size; `desc` takes the logical
+  // size. Raises fileNotFound, fileAccess or badFile, naming the file.
   Surface CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc);
 
   // 0 while the game has the screen; another value while its window lacks the focus or is

@@ -3,8 +3,10 @@
 #include <SDL_ttf.h>
 #include <fontconfig/fontconfig.h>
 
+#include <cmath>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <utility>
 
 #include "base/text.h"
@@ -14,14 +16,22 @@
 namespace glonks {
 namespace {
 
-constexpr unsigned dotsPerInch = 96;
+constexpr double dotsPerInch = 96;  // at scale 1
 constexpr std::size_t mostPictures = 256;
 
 struct FontCloser {
   void operator()(TTF_Font* font) const { TTF_CloseFont(font); }
 };
 using Font = std::unique_ptr<TTF_Font, FontCloser>;
-using FontKey = std::pair<std::string, i32>;
+
+struct FontKey {
+  std::string name;
+  i32 points;
+  unsigned dots;  // per inch
+  bool operator<(const FontKey& other) const {
+    return std::tie(name, points, dots) < std::tie(other.name, other.points, other.dots);
+  }
+};
 
 // Fonts and pictures live to the end of the program: TTF_Quit is never called, as it would take the
 // fonts away from under their owners.
@@ -51,12 +61,16 @@ std::string fontFile(const std::string& name) {
   return reinterpret_cast<const char*>(file);
 }
 
+FontKey keyOf(const std::string& name, i32 points, double scale) {
+  return {name, points, static_cast<unsigned>(std::lround(dotsPerInch * scale))};
+}
+
 TTF_Font* fontFor(const FontKey& key) {
   Font& font = fonts[key];
   if (font) return font.get();
-  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(ErrorNumber::serviceFailed, unusable(key.first));
-  font.reset(TTF_OpenFontDPI(fontFile(key.first).c_str(), key.second, dotsPerInch, dotsPerInch));
-  if (!font) fail(ErrorNumber::serviceFailed, unusable(key.first));
+  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(ErrorNumber::serviceFailed, unusable(key.name));
+  font.reset(TTF_OpenFontDPI(fontFile(key.name).c_str(), key.points, key.dots, key.dots));
+  if (!font) fail(ErrorNumber::serviceFailed, unusable(key.name));
   return font.get();
 }
 
@@ -83,10 +97,13 @@ TextPicture rendered(TTF_Font* font, std::string text) {
 
 }  // namespace
 
-void loadFont(const std::string& name, i32 points) { fontFor({name, points}); }
+void loadFont(const std::string& name, i32 points, double scale) {
+  fontFor(keyOf(name, points, scale));
+}
 
-const TextPicture& textPicture(const std::string& fontName, i32 points, const std::string& text) {
-  const FontKey font{fontName, points};
+const TextPicture& textPicture(const std::string& fontName, i32 points, double scale,
+                               const std::string& text) {
+  const FontKey font = keyOf(fontName, points, scale);
   const auto known = pictures.find({font, text});
   if (known != pictures.end()) return known->second;
   if (pictures.size() >= mostPictures) pictures.clear();

@@ -16,11 +16,13 @@ struct TextPicture {
 };
 
 // Makes a font ready. For a name that the system doesn't know, it offers another font instead.
-// 72 points are 96 pixels. Raises serviceFailed, naming the font, if there is none at all.
-void loadFont(const std::string& name, i32 points);
+// 72 points are 96 logical pixels, each of them `scale` pixels. Raises serviceFailed, naming the
+// font, if there is none at all.
+void loadFont(const std::string& name, i32 points, double scale);
 
 // The picture of a Windows-1252 text in a font. It stays valid until the next call. Raises what
 // loadFont raises.
-const TextPicture& textPicture(const std::string& fontName, i32 points, const std::string& text);
+const TextPicture& textPicture(const std::string& fontName, i32 points, double scale,
+                               const std::string& text);
 
 }  // namespace glonks

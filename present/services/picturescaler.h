@@ -7,8 +7,10 @@
 
 namespace glonks {
 
-// Inside the services: scales parts of a picture onto a larger or smaller one so that the parts fit
-// together without seams, as if the whole had been scaled at once (bilinear).
+// Inside the services: scales a picture, or parts of it, which fit together without seams, as if
+// the whole had been scaled at once. Along a side that grows, a pixel is a mixture of the two that
+// it lies between; along one that shrinks, the mean of the area that it covers. Pixels are
+// 0xAARRGGBB with colours multiplied by alpha.
 class PictureScaler {
  public:
   // From pictures of `width` by `height` to ones of `newWidth` by `newHeight` pixels.
@@ -21,17 +23,26 @@ class PictureScaler {
   void scale(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
 
  private:
+  // What a new pixel is made of along one side: neighbouring old ones and their weights.
   struct Tap {
-    i32 first, second;  // the two old pixels that a new one lies between
-    u32 weight;         // of the second, 0 to 256
+    i32 first, last;      // old pixels, both inclusive
+    u32 weightOfLast;     // of two, 0 to 256
+    std::size_t weights;  // where the area's weights begin, if more than two count
   };
-  static std::vector<Tap> taps(i32 size, i32 newSize);
+  struct Side {
+    std::vector<Tap> taps;       // by new pixel
+    std::vector<float> weights;  // of areas; those of a tap add up to 1
+    bool shrinks;
+  };
+  static Side side(i32 size, i32 newSize);
   static void influence(const std::vector<Tap>& taps, i32 begin, i32 end, i32& first, i32& last);
+  void scaleByMixing(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
+  void scaleByAreas(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
 
   i32 width_;
   bool sameSize_;
-  std::vector<Tap> columns_;
-  std::vector<Tap> rows_;
+  Side columns_;
+  Side rows_;
 };
 
 }  // namespace glonks

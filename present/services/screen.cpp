@@ -19,8 +19,17 @@ namespace {
 
 constexpr u32 refreshPeriod = 16;  // ms
 
+constexpr u32 settlingTime = 200;  // ms that a window's size stands before the scale follows it
+constexpr double largestScale = 2;
+constexpr double largestScaleInSoftware = 1.5;
+
 SDL_Window* window = nullptr;
-i32 pictureWidth = 0;
+i32 logicalWidth = 0;
+i32 logicalHeight = 0;
+double scale = 1;
+double scaleWanted = 1;  // by the window's present size
+u32 wantedSince = 0;     // tick
+i32 pictureWidth = 0;    // of the picture that stands on the screen, pixels
 i32 pictureHeight = 0;
 std::vector<u32> shownPixels;  // the picture that stands on the screen
 u32 lastShown = 0;             // tick of the last picture
@@ -31,6 +40,7 @@ SDL_Renderer* renderer = nullptr;
 SDL_Texture* texture = nullptr;
 
 void createTexture() {
+  SDL_RenderSetLogicalSize(renderer, pictureWidth, pictureHeight);
   if (texture != nullptr) SDL_DestroyTexture(texture);
   texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
                               pictureWidth, pictureHeight);
@@ -43,8 +53,6 @@ void createTexture() {
 void openRenderer() {
   renderer = SDL_CreateRenderer(window, -1, 0);
   if (renderer == nullptr) fail(ErrorNumber::serviceFailed, "The screen can't be drawn on");
-  SDL_RenderSetLogicalSize(renderer, pictureWidth, pictureHeight);
-  createTexture();
 }
 
 bool upload(const u32* pixels) {
@@ -53,7 +61,7 @@ bool upload(const u32* pixels) {
 
 void showTexture(const u32* pixels) {
   std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
-  if (!upload(pixels)) {
+  if (texture == nullptr || !upload(pixels)) {
     createTexture();  // a display that was reset takes its textures with it
     if (!upload(pixels)) {
       fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
@@ -78,10 +86,10 @@ bool paintWhole = true;
 
 // The largest rectangle of the picture's shape in the middle of the window.
 void fitPicture() {
-  const double scale = std::min(static_cast<double>(target->w) / pictureWidth,
-                                static_cast<double>(target->h) / pictureHeight);
-  const i32 width = std::max(1, static_cast<i32>(pictureWidth * scale));
-  const i32 height = std::max(1, static_cast<i32>(pictureHeight * scale));
+  const double fitting = std::min(static_cast<double>(target->w) / pictureWidth,
+                                  static_cast<double>(target->h) / pictureHeight);
+  const i32 width = std::max(1, static_cast<i32>(pictureWidth * fitting));
+  const i32 height = std::max(1, static_cast<i32>(pictureHeight * fitting));
   area.left = (target->w - width) / 2;
   area.top = (target->h - height) / 2;
   area.right = area.left + width;
@@ -199,6 +207,34 @@ void show(const u32* pixels) {
   }
 }
 
+// Makes room for pictures of another size.
+void setPictureSize(i32 width, i32 height) {
+  if (width == pictureWidth && height == pictureHeight) return;
+  pictureWidth = width;
+  pictureHeight = height;
+  shownPixels.assign(static_cast<std::size_t>(width) * height, 0);
+  target = nullptr;
+  paintWhole = true;
+  if (texture != nullptr) SDL_DestroyTexture(texture);
+  texture = nullptr;
+}
+
+// The scale by the window's present size.
+double fittingScale() {
+  int width = 0;
+  int height = 0;
+  if (renderer != nullptr) {
+    SDL_GetRendererOutputSize(renderer, &width, &height);
+  } else if (const SDL_Surface* surface = SDL_GetWindowSurface(window); surface != nullptr) {
+    width = surface->w;
+    height = surface->h;
+  }
+  const double fitting = std::min(static_cast<double>(width) / logicalWidth,
+                                  static_cast<double>(height) / logicalHeight);
+  const double smallest = 1.0 / std::min(logicalWidth, logicalHeight);
+  return std::clamp(fitting, smallest, renderer != nullptr ? largestScale : largestScaleInSoftware);
+}
+
 }  // namespace
 
 void openScreen(i32 handle, i32 width, i32 height) {
@@ -207,11 +243,11 @@ void openScreen(i32 handle, i32 width, i32 height) {
   if (window == nullptr) {
     throw RuntimeError(ErrorNumber::serviceFailed, "There is no window to show the game in.");
   }
-  pictureWidth = width;
-  pictureHeight = height;
-  shownPixels.assign(static_cast<std::size_t>(width) * height, 0);
-  paintWhole = true;
+  logicalWidth = width;
+  logicalHeight = height;
   if (hasGraphicsProcessor() || !openSurface()) openRenderer();
+  scale = fittingScale();
+  scaleWanted = scale;
 }
 
 void closeScreen() {
@@ -221,20 +257,35 @@ void closeScreen() {
   renderer = nullptr;
   target = nullptr;
   window = nullptr;
+  scale = 1;
+  pictureWidth = 0;
+  pictureHeight = 0;
+  shownPixels = {};
 }
 
-void showPicture(const u32* pixels) {
+double screenScale() {
+  if (window == nullptr) return scale;
+  if (const double fitting = fittingScale(); fitting != scaleWanted) {
+    scaleWanted = fitting;
+    wantedSince = GetTickCount();
+  }
+  if (GetTickCount() - wantedSince >= settlingTime) scale = scaleWanted;
+  return scale;
+}
+
+void showPicture(const u32* pixels, i32 width, i32 height) {
   if (window == nullptr) {
     throw RuntimeError(ErrorNumber::serviceFailed, "The screen isn't there to show a picture.");
   }
   while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
   SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
+  setPictureSize(width, height);
   show(pixels);
   lastShown = GetTickCount();
 }
 
 void repaintScreen() {
-  if (window == nullptr) return;
+  if (shownPixels.empty()) return;
   target = nullptr;
   paintWhole = true;
   show(std::vector<u32>(shownPixels).data());

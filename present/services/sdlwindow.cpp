@@ -46,8 +46,9 @@ i32 createSdlWindow(const std::string& caption) {
   // Of the desktop's size from the start: without a window manager nobody else makes it so.
   SDL_Rect desktop{0, 0, smallestWindow, smallestWindow};
   SDL_GetDisplayBounds(0, &desktop);
-  sdlWindow = SDL_CreateWindow(caption.c_str(), desktop.x, desktop.y, desktop.w, desktop.h,
-                               SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
+  sdlWindow = SDL_CreateWindow(
+      caption.c_str(), desktop.x, desktop.y, desktop.w, desktop.h,
+      SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
   if (sdlWindow == nullptr) fail(ErrorNumber::serviceFailed, "The game's window can't be opened");
   SDL_SetWindowMinimumSize(sdlWindow, smallestWindow, smallestWindow);
   placed = false;

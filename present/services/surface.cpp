@@ -1,37 +1,40 @@
 #include "present/services/surface.h"
 
-#include <SDL.h>
-
 #include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <utility>
 
-#include "present/services/failure.h"
+#include "base/errors.h"
 #include "present/services/gamefont.h"
+#include "present/services/picturescaler.h"
+#include "present/services/pixels.h"
 #include "present/services/screen.h"
-#include "present/services/sdlsurface.h"
 
 namespace glonks {
 
-// A part of a surface as one kind of blit needs it: stretched to the size on the target, and the
-// runs of pixels that are to be copied. Blits repeat themselves frame after frame, so the last few
-// are kept.
+// A part of a surface as one kind of blit needs it: scaled to the pixels of the target, and the
+// runs that are to be drawn. Blits repeat themselves frame after frame, so the last few are kept:
+// an explosion has six sizes, and where the scale isn't whole each has up to four forms, by the
+// pixels that its edges are rounded to.
 struct DirectDrawSurface7::Prepared {
   struct Run {
     i32 x;
     i32 y;
     i32 length;
+    bool solid;  // hides what is under it, so it is copied; others are laid over it
   };
   Rect from;
-  i32 width;
+  i32 width;  // pixels
   i32 height;
   bool keyed;
-  std::vector<u32> pixels;  // width * height
+  std::vector<u32> pixels;  // width * height; colours multiplied by alpha, solid ones 0x00RRGGBB
   std::vector<Run> runs;    // by rows from the top, within a row from the left
 };
 
 // A text that has been drawn, and the pixels that it left.
 struct DirectDrawSurface7::StandingText {
-  i32 x;
+  i32 x;  // pixels
   i32 y;
   std::string text;
   std::vector<u32> pixels;
@@ -39,35 +42,20 @@ struct DirectDrawSurface7::StandingText {
 
 namespace {
 
-constexpr std::size_t mostPrepared = 12;
+constexpr std::size_t mostPrepared = 32;
 constexpr std::size_t mostStanding = 32;
+constexpr std::size_t mostKept = 1U << 20U;  // pixels of a picture that stay in memory
 
-SdlSurface wrapped(std::vector<u32>& pixels, i32 width, i32 height) {
-  return SdlSurface(SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), width, height, 32, width * 4,
-                                                       SDL_PIXELFORMAT_RGB888));
-}
+std::size_t area(i32 width, i32 height) { return static_cast<std::size_t>(width) * height; }
 
-// A picture stretched to another size: smoothly, or by the nearest pixels, so that none takes a
-// mixture with a key colour.
-std::vector<u32> stretched(std::vector<u32>& pixels, i32 width, i32 height, i32 newWidth,
-                           i32 newHeight, bool smooth) {
-  std::vector<u32> result(static_cast<std::size_t>(newWidth) * newHeight);
-  const SdlSurface source = wrapped(pixels, width, height);
-  const SdlSurface target = wrapped(result, newWidth, newHeight);
-  const auto stretch = smooth ? SDL_SoftStretchLinear : SDL_SoftStretch;
-  if (!source || !target || stretch(source.get(), nullptr, target.get(), nullptr) != 0) {
-    fail(ErrorNumber::serviceFailed, "Blt: a picture can't be stretched");
-  }
-  return result;
-}
+// The pixel edge of a logical one. Rounding edges instead of sizes leaves neither seams nor
+// overlaps between neighbours.
+i32 edge(i32 place, double scale) { return static_cast<i32>(std::floor(place * scale + 0.5)); }
 
-u32 blended(u32 under, u32 over, u32 coverage) {
-  u32 result = 0;
-  for (u32 shift = 0; shift < 24; shift += 8) {
-    const u32 a = under >> shift & 0xFFU;
-    const u32 b = over >> shift & 0xFFU;
-    result |= (a * (255 - coverage) + b * coverage + 127) / 255 << shift;
-  }
+std::vector<u32> scaled(const u32* pixels, i32 width, i32 height, i32 newWidth, i32 newHeight) {
+  std::vector<u32> result(area(newWidth, newHeight));
+  PictureScaler(width, height, newWidth, newHeight)
+      .scale(pixels, result.data(), newWidth, {0, 0, newWidth, newHeight});
   return result;
 }
 
@@ -76,29 +64,65 @@ Rect clipped(const Rect& rect, i32 width, i32 height) {
           std::clamp(rect.right, 0, width), std::clamp(rect.bottom, 0, height)};
 }
 
+enum class Cover { none, partly, whole };
+
+Cover coverOf(u32 pixel) {
+  const u32 alpha = pixel >> alphaShift;
+  return alpha == 0 ? Cover::none : alpha == 255 ? Cover::whole : Cover::partly;
+}
+
 }  // namespace
 
-DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height)
-    : width_(width), height_(height), pixels_(static_cast<std::size_t>(width) * height, 0) {}
+DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height, double scale)
+    : width_(width),
+      height_(height),
+      scale_(scale),
+      pixelWidth_(edge(width, scale)),
+      pixelHeight_(edge(height, scale)),
+      pixels_(area(pixelWidth_, pixelHeight_), 0) {}
+
+DirectDrawSurface7::DirectDrawSurface7(PictureFile file, double targetScale)
+    : DirectDrawSurface7(0, 0) {
+  file_ = std::move(file);
+  take(decodePicture(file_));
+  if (pixels_.size() <= mostKept) {
+    file_ = {};
+  } else {
+    prepared(wholeIfZero({}), edge(width_, targetScale), edge(height_, targetScale), hasAlpha_);
+  }
+}
 
 DirectDrawSurface7::~DirectDrawSurface7() = default;
 
-void DirectDrawSurface7::setPixels(std::vector<u32> pixels) {
-  if (pixels.size() != pixels_.size()) {
-    throw RuntimeError(ErrorNumber::badCall, "setPixels: the picture has another size.");
-  }
-  pixels_ = std::move(pixels);
+void DirectDrawSurface7::take(Picture picture) {
+  scale_ = picture.density;
+  pixelWidth_ = picture.width;
+  pixelHeight_ = picture.height;
+  width_ = (pixelWidth_ + picture.density - 1) / picture.density;
+  height_ = (pixelHeight_ + picture.density - 1) / picture.density;
+  hasAlpha_ = picture.hasAlpha;
+  pixels_ = std::move(picture.pixels);
+}
+
+void DirectDrawSurface7::setScale(double scale) {
+  const i32 newWidth = edge(width_, scale);
+  const i32 newHeight = edge(height_, scale);
+  pixels_ = scaled(pixels_.data(), pixelWidth_, pixelHeight_, newWidth, newHeight);
+  pixelWidth_ = newWidth;
+  pixelHeight_ = newHeight;
+  scale_ = scale;
+  if (!font_.name.empty()) SetFont(font_);
   changed();
 }
 
 void DirectDrawSurface7::SetColorKey(i32 flags, const ColorKey& key) {
   hasKey_ = (flags & sourceBlitKey) != 0;
   key_ = key;
-  changed();
+  if (!hasAlpha_) changed();
 }
 
 bool DirectDrawSurface7::isKey(u32 pixel) const {
-  const auto color = static_cast<i32>(pixel & 0xFFFFFFU);
+  const auto color = static_cast<i32>(pixel & colorBits);
   return color >= key_.low && color <= key_.high;
 }
 
@@ -111,6 +135,28 @@ Rect DirectDrawSurface7::wholeIfZero(const Rect& rect) const {
   return rect == Rect{} ? Rect{0, 0, width_, height_} : rect;
 }
 
+Rect DirectDrawSurface7::onPixels(const Rect& rect) const {
+  return {edge(rect.left, scale_), edge(rect.top, scale_), edge(rect.right, scale_),
+          edge(rect.bottom, scale_)};
+}
+
+// What lies outside the surface shows nothing, and neither do key colours.
+std::vector<u32> DirectDrawSurface7::cutOut(const Rect& from, bool keyed) const {
+  const i32 width = from.right - from.left;
+  std::vector<u32> result(area(width, from.bottom - from.top), 0);
+  const Rect inside = clipped(from, pixelWidth_, pixelHeight_);
+  const bool byKey = keyed && hasKey_ && !hasAlpha_;
+  for (i32 y = inside.top; y < inside.bottom; ++y) {
+    const u32* row = &pixels_[area(pixelWidth_, y)];
+    u32* to = &result[area(width, y - from.top)] - from.left;
+    for (i32 x = inside.left; x < inside.right; ++x) {
+      if (byKey && isKey(row[x])) continue;
+      to[x] = hasAlpha_ ? row[x] : row[x] | opaqueBits;
+    }
+  }
+  return result;
+}
+
 const DirectDrawSurface7::Prepared& DirectDrawSurface7::prepared(const Rect& from, i32 width,
                                                                  i32 height, bool keyed) {
   for (const Prepared& known : prepared_) {
@@ -119,29 +165,30 @@ const DirectDrawSurface7::Prepared& DirectDrawSurface7::prepared(const Rect& fro
       return known;
     }
   }
+  if (pixels_.empty()) take(decodePicture(file_));
+  const Rect part = onPixels(from);
+  const i32 partWidth = part.right - part.left;
+  const i32 partHeight = part.bottom - part.top;
   Prepared fresh{from, width, height, keyed, {}, {}};
-  const i32 fromWidth = from.right - from.left;
-  const i32 fromHeight = from.bottom - from.top;
-  // What lies outside the picture shows nothing.
-  const u32 outside = keyed ? static_cast<u32>(key_.low) : 0;
-  fresh.pixels.assign(static_cast<std::size_t>(fromWidth) * fromHeight, outside);
-  const Rect inside = clipped(from, width_, height_);
-  for (i32 y = inside.top; y < inside.bottom && inside.left < inside.right; ++y) {
-    const u32* row = &pixels_[static_cast<std::size_t>(y) * width_];
-    std::copy(row + inside.left, row + inside.right,
-              &fresh.pixels[static_cast<std::size_t>(y - from.top) * fromWidth +
-                            (inside.left - from.left)]);
+  if (hasAlpha_ && part == Rect{0, 0, pixelWidth_, pixelHeight_}) {
+    fresh.pixels = scaled(pixels_.data(), partWidth, partHeight, width, height);
+  } else {
+    fresh.pixels = cutOut(part, keyed);
+    if (partWidth != width || partHeight != height) {
+      fresh.pixels = scaled(fresh.pixels.data(), partWidth, partHeight, width, height);
+    }
   }
-  if (fromWidth != width || fromHeight != height) {
-    fresh.pixels = stretched(fresh.pixels, fromWidth, fromHeight, width, height, !keyed);
-  }
+  if (!file_.bytes.empty()) pixels_ = {};
+
   for (i32 y = 0; y < height; ++y) {
-    const u32* row = &fresh.pixels[static_cast<std::size_t>(y) * width];
+    u32* row = &fresh.pixels[area(width, y)];
     for (i32 x = 0; x < width;) {
       const i32 start = x;
-      const bool leftOut = keyed && isKey(row[x]);
-      while (x < width && (keyed && isKey(row[x])) == leftOut) ++x;
-      if (!leftOut) fresh.runs.push_back({start, y, x - start});
+      const Cover cover = keyed ? coverOf(row[x]) : Cover::whole;
+      for (; x < width && (!keyed || coverOf(row[x]) == cover); ++x) {
+        if (cover == Cover::whole) row[x] &= colorBits;
+      }
+      if (cover != Cover::none) fresh.runs.push_back({start, y, x - start, cover == Cover::whole});
     }
   }
   if (prepared_.size() < mostPrepared) {
@@ -157,24 +204,28 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
   constexpr i32 nothingDrawn = 1;
   constexpr i32 largest = 8192;
   if (!source) return nothingDrawn;
-  const Rect target = wholeIfZero(to);
+  const Rect target = onPixels(wholeIfZero(to));
   const Rect part = source->wholeIfZero(from);
   const i32 width = target.right - target.left;
   const i32 height = target.bottom - target.top;
   if (width <= 0 || height <= 0 || width > largest || height > largest) return nothingDrawn;
   if (part.right <= part.left || part.bottom <= part.top) return nothingDrawn;
-  const Rect shown = clipped(target, width_, height_);
+  const Rect shown = clipped(target, pixelWidth_, pixelHeight_);
   if (shown.left >= shown.right || shown.top >= shown.bottom) return nothingDrawn;
-  const bool keyed = (flags & bltKeyed) == bltKeyed && source->hasKey_;
+  const bool keyed = (flags & bltKeyed) == bltKeyed && (source->hasKey_ || source->hasAlpha_);
 
   const Prepared& picture = source->prepared(part, width, height, keyed);
-  const auto copy = [&](i32 x, i32 y, i32 length) {
-    std::memcpy(&pixels_[static_cast<std::size_t>(y + target.top) * width_ + (x + target.left)],
-                &picture.pixels[static_cast<std::size_t>(y) * width + x],
-                static_cast<std::size_t>(length) * sizeof(u32));
+  const auto draw = [&](const Prepared::Run& run, i32 first, i32 end) {
+    u32* under = &pixels_[area(pixelWidth_, run.y + target.top)] + target.left;
+    const u32* over = &picture.pixels[area(width, run.y)];
+    if (run.solid) {
+      std::memcpy(under + first, over + first, static_cast<std::size_t>(end - first) * sizeof(u32));
+    } else {
+      for (i32 x = first; x < end; ++x) under[x] = laidOver(under[x], over[x]) & colorBits;
+    }
   };
   if (shown == target) {
-    for (const Prepared::Run& run : picture.runs) copy(run.x, run.y, run.length);
+    for (const Prepared::Run& run : picture.runs) draw(run, run.x, run.x + run.length);
   } else {
     const i32 left = shown.left - target.left;  // the part of the picture that shows
     const i32 right = shown.right - target.left;
@@ -183,7 +234,7 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
       if (y < shown.top || y >= shown.bottom) continue;
       const i32 first = std::max(run.x, left);
       const i32 end = std::min(run.x + run.length, right);
-      if (first < end) copy(first, run.y, end - first);
+      if (first < end) draw(run, first, end);
     }
   }
   changed();
@@ -191,14 +242,14 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
 }
 
 i32 DirectDrawSurface7::BltColorFill(const Rect& to, i32 color) {
-  const Rect area = clipped(wholeIfZero(to), width_, height_);
-  for (i32 y = area.top; y < area.bottom; ++y) {
-    u32* row = &pixels_[static_cast<std::size_t>(y) * width_];
-    const auto length = static_cast<std::size_t>(std::max(0, area.right - area.left));
+  const Rect filled = clipped(onPixels(wholeIfZero(to)), pixelWidth_, pixelHeight_);
+  for (i32 y = filled.top; y < filled.bottom; ++y) {
+    u32* row = &pixels_[area(pixelWidth_, y)];
+    const auto length = static_cast<std::size_t>(std::max(0, filled.right - filled.left));
     if (color == 0) {  // each frame begins so, and this way takes half its time off
-      std::memset(row + area.left, 0, length * sizeof(u32));
+      std::memset(row + filled.left, 0, length * sizeof(u32));
     } else {
-      std::fill_n(row + area.left, length, static_cast<u32>(color));
+      std::fill_n(row + filled.left, length, static_cast<u32>(color));
     }
   }
   changed();
@@ -206,7 +257,7 @@ i32 DirectDrawSurface7::BltColorFill(const Rect& to, i32 color) {
 }
 
 void DirectDrawSurface7::SetFont(const GameFont& font) {
-  loadFont(font.name, font.size);
+  loadFont(font.name, font.size, scale_);
   font_ = font;
   standing_.clear();
 }
@@ -221,41 +272,43 @@ void DirectDrawSurface7::SetFontTransparency(Flag transparent) {
   standing_.clear();
 }
 
-void DirectDrawSurface7::DrawText(i32 x, i32 y, const std::string& text, Flag /*atCursor*/) {
+void DirectDrawSurface7::DrawText(i32 left, i32 top, const std::string& text, Flag /*atCursor*/) {
   if (text.empty()) return;
-  const TextPicture& picture = textPicture(font_.name, font_.size, text);
-  const Rect area = clipped({x, y, x + picture.width, y + picture.height}, width_, height_);
-  if (area.left >= area.right || area.top >= area.bottom) return;
+  const TextPicture& picture = textPicture(font_.name, font_.size, scale_, text);
+  const i32 x = edge(left, scale_);
+  const i32 y = edge(top, scale_);
+  const Rect shown =
+      clipped({x, y, x + picture.width, y + picture.height}, pixelWidth_, pixelHeight_);
+  if (shown.left >= shown.right || shown.top >= shown.bottom) return;
 
-  const auto areaWidth = static_cast<std::size_t>(area.right - area.left);
-  const auto rowAt = [&](i32 row) {
-    return &pixels_[static_cast<std::size_t>(row) * width_ + area.left];
-  };
+  const auto length = static_cast<std::size_t>(shown.right - shown.left);
+  const auto rowAt = [&](i32 row) { return &pixels_[area(pixelWidth_, row)] + shown.left; };
   const auto known =
       std::find_if(standing_.begin(), standing_.end(), [&](const StandingText& standing) {
         return standing.x == x && standing.y == y && standing.text == text;
       });
   if (known != standing_.end()) {
     bool stands = true;
-    const u32* left = known->pixels.data();
-    for (i32 row = area.top; row < area.bottom && stands; ++row, left += areaWidth) {
-      stands = std::equal(left, left + areaWidth, rowAt(row));
+    const u32* standing = known->pixels.data();
+    for (i32 row = shown.top; row < shown.bottom && stands; ++row, standing += length) {
+      stands = std::equal(standing, standing + length, rowAt(row));
     }
     if (stands) return;
   }
 
   StandingText drawn{x, y, text, {}};
-  for (i32 row = area.top; row < area.bottom; ++row) {
+  for (i32 row = shown.top; row < shown.bottom; ++row) {
     u32* to = rowAt(row);
     const unsigned char* coverage =
-        &picture.coverage[static_cast<std::size_t>(row - y) * picture.width + (area.left - x)];
-    for (std::size_t i = 0; i < areaWidth; ++i) {
+        &picture.coverage[static_cast<std::size_t>(row - y) * picture.width + (shown.left - x)];
+    for (std::size_t i = 0; i < length; ++i) {
       const u32 under = transparent_ != False ? to[i] : 0;
       if (coverage[i] != 0 || transparent_ == False) {
-        to[i] = blended(under, static_cast<u32>(foreColor_), coverage[i]);
+        const u32 over = faded(static_cast<u32>(foreColor_) | opaqueBits, coverage[i]);
+        to[i] = laidOver(under, over) & colorBits;
       }
     }
-    drawn.pixels.insert(drawn.pixels.end(), to, to + areaWidth);
+    drawn.pixels.insert(drawn.pixels.end(), to, to + length);
   }
   changed();
   if (known != standing_.end()) {
@@ -278,7 +331,9 @@ void DirectDrawSurface7::Flip(const Surface& overrideSurface, i32 /*flags*/) {
   if (!shown) {
     throw RuntimeError(ErrorNumber::serviceFailed, "Flip: the surface has no back buffer.");
   }
-  showPicture(shown->pixels());
+  showPicture(shown->pixels(), shown->pixelWidth(), shown->pixelHeight());
+  const double wanted = screenScale();
+  if (shown->scale() != wanted) shown->setScale(wanted);
 }
 
 }  // namespace glonks

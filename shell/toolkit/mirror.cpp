@@ -122,7 +122,7 @@ class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
 QString pictureFile(const std::string& path) {
   QString text = shownText(path);
   if (text.isEmpty() || text.startsWith(":/")) return text;
-  return QFileInfo(nativePath(path)).filePath();
+  return QFileInfo(nativePath(pictureFileOf(path))).filePath();
 }
 
 class ImageMirror : public MirrorOf<Image, PictureView> {

@@ -43,7 +43,8 @@ std::string fake::nameOf(const Surface& picture) { return picture ? names[pictur
 struct DirectDrawSurface7::Prepared {};
 struct DirectDrawSurface7::StandingText {};
 
-DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height) : width_(width), height_(height) {}
+DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height, double scale)
+    : width_(width), height_(height), scale_(scale), pixelWidth_(width), pixelHeight_(height) {}
 DirectDrawSurface7::~DirectDrawSurface7() { names.erase(this); }
 
 void DirectDrawSurface7::SetColorKey(i32 flags, const ColorKey& key) {
@@ -110,7 +111,7 @@ Surface DirectDraw7::CreateSurfaceFromFile(const std::string& path, SurfaceDesc&
   const std::string name = nativePath(path).stem().string();
   fake::onPicture(name);
   fake::drawn.push_back("load " + name);
-  if (!std::filesystem::exists(nativePath(path)))
+  if (!std::filesystem::exists(nativePath(pictureFileOf(path))))
     throw RuntimeError(ErrorNumber::fileNotFound, "no file " + path);
   auto surface = std::make_shared<DirectDrawSurface7>(0, 0);
   names[surface.get()] = name;

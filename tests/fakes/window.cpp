@@ -27,7 +27,8 @@ bool screenLost() { return fake::screenIsLost; }
 void ShowCursor(i32 show) { fake::cursorShown = show; }
 void openScreen(i32, i32, i32) {}
 void closeScreen() {}
-void showPicture(const u32* /*pixels*/) { ++fake::picturesShown; }
+double screenScale() { return 1; }
+void showPicture(const u32* /*pixels*/, i32 /*width*/, i32 /*height*/) { ++fake::picturesShown; }
 const KeyState& keyTable() { return fake::keys; }
 
 }  // namespace glonks

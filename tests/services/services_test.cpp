@@ -1,4 +1,5 @@
 #include <SDL_mixer.h>
+#include <png.h>
 #include <sys/stat.h>
 
 #include "present/services/audiodevice.h"
@@ -46,7 +47,7 @@ TEST(Surface, BlitsShowTheirSourceAsItIsAndAreCutOffAtAllEdges) {
     if (i % 5 == 2) source->DrawText(i % 7 - 3, i % 5 - 8, std::to_string(i), False);
     if (i % 5 == 3) key = static_cast<i32>(source->pixel(5, 4));
     if (i % 5 == 3) source->SetColorKey(sourceBlitKey, {key, key});
-    if (i % 5 == 4) source->setPixels(std::vector<u32>(11 * 8, static_cast<u32>(i)));
+    if (i % 5 == 4) source->Blt({}, plain(3, 2, static_cast<u32>(i)), {}, bltOpaque);
     const Rect to{i % 20 - 7, i / 20 % 17 - 6, i % 20 - 1, i / 20 % 17 - 1};
     const Rect from{i / 20 % 5, i / 100 % 4, i / 20 % 5 + 6, i / 100 % 4 + 5};
     std::vector<u32> expected = pixelsOf(target);
@@ -61,15 +62,48 @@ TEST(Surface, BlitsShowTheirSourceAsItIsAndAreCutOffAtAllEdges) {
   }
 }
 
-TEST(Surface, BlitsStretchSmoothlyOrWithoutAFringe) {
+TEST(Surface, BlitsStretchSmoothlyAndWithoutAFringe) {
   const Surface source = plain(20, 20, white), target = plain(60, 80, blue);
   source->BltColorFill({0, 0, 10, 20}, red);
   target->Blt({}, source, {-10, -20, 20, 20}, bltKeyed);  // nothing from outside the picture
-  const Surface expected = plain(60, 80, blue);
-  expected->BltColorFill({20, 40, 40, 80}, red);
-  EXPECT_EQ(pixelsOf(target), pixelsOf(expected));
+  i32 reds = 0, blues = 0;
+  for (const u32 pixel : pixelsOf(target)) {
+    ASSERT_TRUE((pixel & 0xFF00) == 0 && (pixel >> 16) + (pixel & 0xFF) - 255 < 2) << "a fringe";
+    reds += pixel == red ? 1 : 0, blues += pixel == blue ? 1 : 0;
+  }
+  EXPECT_TRUE(reds > 700 && reds < 800 && blues > 3800 && blues < 4000) << reds << ", " << blues;
   target->Blt({0, 0, 60, 20}, source, {}, bltOpaque);
   EXPECT_TRUE(target->pixel(30, 0) != red && target->pixel(30, 0) != white) << "a hard step";
+}
+
+// A checkered floor of blits that meet, at scales as screens ask for them: each tile ends where the
+// next begins, so what shines through is as large as what was left out.
+TEST(Surface, NeighboursMeetAtEveryScaleAndAreDrawnAtItsSize) {
+  const Surface tile = plain(9, 7, red);
+  for (const double scale : {0.37, 1.0, 1.40625, 1.5, 1.875, 2.0}) {
+    const auto surface = std::make_shared<DirectDrawSurface7>(90, 70, scale);
+    surface->SetFont({"Times New Roman", 12});
+    surface->SetForeColor(white);
+    surface->DrawText(0, 0, "Hxg", False);
+    const auto size = static_cast<std::size_t>(surface->pixelWidth()) * surface->pixelHeight();
+    EXPECT_EQ(size, std::lround(90 * scale) * std::lround(70 * scale));
+    i32 top = surface->pixelHeight(), bottom = 0;  // rows of the text
+    for (std::size_t i = 0; i < size; ++i) {
+      if (surface->pixels()[i] == 0) continue;
+      top = std::min(top, static_cast<i32>(i) / surface->pixelWidth());
+      bottom = static_cast<i32>(i) / surface->pixelWidth();
+    }
+    EXPECT_NEAR((bottom - top) / scale, 14, 1.5 / scale) << "12 points, at scale " << scale;
+    for (i32 i = 0; i < 100; ++i) {
+      const Rect to{i % 10 * 9, i / 10 * 7, i % 10 * 9 + 9, i / 10 * 7 + 7};
+      surface->Blt(to, tile, {}, i % 2 == 0 ? bltKeyed : bltOpaque);
+    }
+    const u32* end = surface->pixels() + size;
+    EXPECT_EQ(std::count(surface->pixels(), end, red), size) << "a seam at scale " << scale;
+    surface->setScale(2);
+    EXPECT_EQ(surface->pixelWidth() * surface->pixelHeight(), 180 * 140);
+    EXPECT_EQ(surface->pixel(179, 139), red) << "kept at another scale";
+  }
 }
 
 TEST(Surface, TextDrawnAgainLooksAsDrawnOnceAndIsCutOffAtTheEdges) {
@@ -90,6 +124,18 @@ Sample loadWav(const auto& path) { return DirectSound().CreateSoundBufferFromFil
 
 using Files = TempFolder;
 
+// A PNG of one colour, 0xAARRGGBB.
+std::string pngOf(u32 width, u32 height, u32 color) {
+  png_image png = {};
+  png.version = PNG_IMAGE_VERSION;
+  png.width = width, png.height = height, png.format = PNG_FORMAT_BGRA;
+  const std::vector<u32> pixels(static_cast<std::size_t>(width) * height, color);
+  std::string bytes(100000, 0);
+  png_alloc_size_t size = bytes.size();
+  png_image_write_to_memory(&png, bytes.data(), &size, 0, pixels.data(), 0, nullptr);
+  return bytes.substr(0, size);
+}
+
 TEST_F(Files, ThatAreDamagedAreToldByName) {
   const auto load = [](const std::string& path, const std::string& bytes) {
     SurfaceDesc desc;
@@ -97,22 +143,57 @@ TEST_F(Files, ThatAreDamagedAreToldByName) {
     if (path == "\\wav") loadWav(path);
     return DirectDraw7().CreateSurfaceFromFile(path, desc);
   };
-  const std::string apple = bytesOf("\\images\\apple.bmp"), pop = bytesOf("\\sounds\\_pop01.wav");
+  const std::string pop = bytesOf("\\sounds\\_pop01.wav"), png = pngOf(40, 30, red);
+  SDL_Surface* saved = SDL_CreateRGBSurface(0, 90, 90, 24, 0xFF0000, 0xFF00, 0xFF, 0);
+  SDL_SaveBMP(saved, (folder / "apple").c_str());
+  SDL_FreeSurface(saved);
+  const std::string apple = bytesOf("\\apple");
   // One pixel on another, with sizes of 16 bits in the header.
   const std::string old(
       "BM\x22\0\0\0\0\0\0\0\x1A\0\0\0\x0C\0\0\0\1\0\2\0\1\0\x18\0\3\2\1\0\6\5\4\0", 34);
-  EXPECT_EQ(pixelsOf(load("\\bmp", old)), (std::vector<u32>{0x040506, 0x010203}));
+  const Surface small = plain(1, 2, blue);
+  small->Blt({}, load("\\bmp", old), {}, bltKeyed);
+  EXPECT_EQ(pixelsOf(small), (std::vector<u32>{0x040506, 0x010203}));
   // Bytes to be put in the place of those that begin at a number.
   const std::tuple<std::string, std::size_t, std::string, const char*> table[] = {
-      {old, 20, "\1\x20", "out of range"}, {apple.substr(0, 25), 0, "", "no bitmap"},
-      {apple, 20, "\1", "out of range"},   {apple.substr(0, apple.size() - 5), 0, "", "\\bmp"},
-      {apple, 25, "\x80", "out of range"}, {pop.substr(0, 40).append(4, 0), 0, "", "sound \"\\wav"},
-      {apple, 0, "GIF89a", "no bitmap"},   {pop.substr(0, pop.size() - 9), 0, "", "sound \"\\wav"},
-      {apple, 28, "\7", "\\bmp"},          {"", 0, "", "\\bmp\" is empty"}};
+      {old, 20, "\1\x20", "out of range"},
+      {apple.substr(0, 25), 0, "", "no bitmap"},
+      {apple, 20, "\1", "out of range"},
+      {apple.substr(0, apple.size() - 5), 0, "", "\\bmp"},
+      {apple, 25, "\x80", "out of range"},
+      {pop.substr(0, 40).append(4, 0), 0, "", "sound \"\\wav"},
+      {apple, 0, "GIF89a", "no bitmap"},
+      {pop.substr(0, pop.size() - 9), 0, "", "sound \"\\wav"},
+      {apple, 28, "\7", "\\bmp"},
+      {"", 0, "", "\\bmp\" is empty"},
+      {png.substr(0, 60), 0, "", "\\bmp"},
+      {pngOf(4097, 1, 0), 0, "", "out of range"},
+      {png, 20, "\1", "\\bmp"}};
   for (auto [bytes, at, others, error] : table) {
     bytes.replace(at, others.size(), others);
     const auto run = [&, &b = bytes, &e = error] { load(holds(e, "wav") ? "\\wav" : "\\bmp", b); };
     EXPECT_PRED2(holds, errorOf(run), error);
+  }
+}
+
+TEST_F(Files, PngsAreTakenForBitmapsAtTwiceTheSizeWithWhatTheySayOfSeeingThrough) {
+  putBytes("\\half.png", pngOf(5, 4, 0x80FF0000));
+  putBytes("\\half.bmp", "none");
+  putBytes("\\large.png", pngOf(2048, 1024, 0xFFFFFFFF));
+  SurfaceDesc desc;
+  const Surface half = DirectDraw7().CreateSurfaceFromFile("\\half.bmp", desc);
+  EXPECT_TRUE(desc.width == 3 && desc.height == 2);
+  const Surface large = DirectDraw7().CreateSurfaceFromFile("\\large.bmp", desc);
+  std::filesystem::remove(folder / "large.png");
+  large->SetColorKey(sourceBlitKey, {white, white});
+  for (const double scale : {1.0, 0.25, 1.0}) {  // the last after its pixels were let go
+    const auto surface = std::make_shared<DirectDrawSurface7>(1024, 512, scale);
+    surface->Blt({}, large, {}, bltKeyed);
+    EXPECT_EQ(surface->pixel(surface->pixelWidth() - 1, 3), white) << "no key beside alpha";
+    surface->Blt({0, 0, 12, 8}, half, {0, 0, 2, 2}, bltKeyed);
+    EXPECT_EQ(surface->pixel(1, 1), 0xFF7F7FU);
+    surface->Blt({0, 0, 12, 8}, half, {0, 0, 2, 2}, bltOpaque);
+    EXPECT_EQ(surface->pixel(1, 1), 0x800000U);
   }
 }
 
@@ -194,7 +275,7 @@ TEST_F(Window, KeepsItsSizeAndShowsThePictureAgain) {
     const Rect part{i % 4 * 71, i * 5 % 30, i % 4 * 64 + 64, i % 3 * 32 + 32};
     picture->BltColorFill(i < 19 ? part : Rect{}, i * 0x0D0B07);
     const u32 before = fake::clockNow;
-    showPicture(picture->pixels());
+    showPicture(picture->pixels(), 300, 100);
     EXPECT_TRUE(i == 0 || fake::clockNow - before == 16) << "the game's pace";
     const std::vector<u32> parts = standing();
     SDL_FillRect(SDL_GetWindowSurface(sdlWindow), nullptr, 0);
@@ -205,6 +286,22 @@ TEST_F(Window, KeepsItsSizeAndShowsThePictureAgain) {
   letWindowMessagesThrough();
   const std::vector<u32> all = standing();
   EXPECT_EQ(all[300 * 500] - all[200 * 500] - all[400 * 500], 19 * 0x0D0B07U) << "with bars";
+  DirectDraw7 display;
+  display.SetCooperativeLevel(handle, 0x51);
+  display.SetDisplayMode(300, 100, 16, 0, 0);
+  const Surface primary = display.CreateSurface({0x21, 0x218, 1, 0, 0});
+  const Surface back = primary->GetAttachedSurface(4);
+  back->BltColorFill({}, static_cast<i32>(red));
+  for (const auto& [width, scale] : {std::pair{500, 1.5}, {270, 0.9}, {330, 1.1}}) {
+    SDL_SetWindowSize(sdlWindow, width, 600);
+    for (const u32 wait : {0, 199, 1}) {  // it follows a size that stands for 200 ms
+      fake::clockNow += wait;
+      primary->Flip(nullptr, flipWait);
+      EXPECT_EQ(back->scale() == scale, wait == 1 || width == 500) << width << ", " << wait;
+    }
+    EXPECT_TRUE(back->pixelWidth() == 300 * scale && back->pixel(9, 9) == red) << width;
+  }
+  SDL_SetWindowSize(sdlWindow, 500, 600);
   for (const int times : {0, 1}) {  // only a window over the whole screen is maximised
     setWindowState(handle, WindowState::maximised);
     EXPECT_EQ(std::exchange(timesMaximised, 0), times);

@@ -174,7 +174,7 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
       {"Arcade", "Every level", {"One, two", "Last"}, 1, "\"\\levels\\18\" is too short"}};
   ownFolderOfLinks("images");
   for (const char* piece : {"btype", "pin"}) {
-    std::filesystem::remove(folder / "images" / (piece + std::string(".bmp")));
+    std::filesystem::remove(folder / "images" / (piece + std::string(".png")));
   }
   stockOf(midnightBowlingItem) = 1;
   listModes();
