@@ -12,6 +12,7 @@ using i16 = std::int16_t;
 using i32 = std::int32_t;
 using u32 = std::uint32_t;
 using i64 = std::int64_t;
+using u64 = std::uint64_t;
 
 // A truth value of 16 bits. Stored flags hold only False or True, and rules test against these two.
 using Flag = i16;

@@ -6,7 +6,9 @@
 #include <QImage>
 #include <QPainter>
 #include <array>
+#include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -38,7 +40,9 @@
 // frogs behind the frame picture, and after the pointer counters, impacts, zaps, popups and the
 // ticker, of which all but the counters are at other places in each frame. SDL and Qt have their
 // texts drawn before. Ours is composed in the other modes too, with all that they show: the count
-// of B-Type's pieces, a full score sheet of Midnight Bowling.
+// of B-Type's pieces, a full score sheet of Midnight Bowling. Each at scale 1, 1.41 and 2; all
+// three have their pictures scaled before, except those of impacts and zaps, which change their
+// size.
 namespace {
 
 using namespace glonks;
@@ -126,14 +130,15 @@ i32 letterX(std::size_t letter, i32 number) {
          letterPitch * static_cast<i32>(letter);
 }
 
+double sceneScale = 1;  // pixels to a logical one
+
+i32 onScreen(i32 length) { return static_cast<i32>(std::lround(length * sceneScale)); }
+
 // Ours.
 
 void setUpOurs() {
   dd = std::make_shared<DirectDraw7>();
   colorKey = {RGB(255, 255, 255), RGB(255, 255, 255)};
-  backBuffer = std::make_shared<DirectDrawSurface7>(1024, 768);
-  backBuffer->SetForeColor(RGB(255, 255, 255));
-  backBuffer->SetFont({"Times New Roman", 12});
   gameMode = modeTitled("Freestyle");
   loadPictures();
   SurfaceDesc desc;
@@ -187,6 +192,14 @@ void setEffects(i32 number) {
   }
 }
 
+// The scale that a benchmark is run at, in hundredths; 141 is that of a screen of 1920 by 1080.
+void setScale(const benchmark::State& state) {
+  sceneScale = state.range(0) == 141 ? 1.40625 : static_cast<double>(state.range(0)) / 100;
+  backBuffer = std::make_shared<DirectDrawSurface7>(1024, 768, sceneScale);
+  backBuffer->SetForeColor(RGB(255, 255, 255));
+  backBuffer->SetFont({"Times New Roman", 12});
+}
+
 void composeBoard() {
   clearBack();
   layPlate();
@@ -196,14 +209,16 @@ void composeBoard() {
 }
 
 void composeOurs(benchmark::State& state) {
+  setScale(state);
   for (auto _ : state) {
     composeBoard();
     drawLines();
-    benchmark::DoNotOptimize(backBuffer->pixels());
+    benchmark::DoNotOptimize(backBuffer->raster()->pixels.data());
   }
 }
 
 void composeMode(benchmark::State& state, const std::string& title, void (*texts)()) {
+  setScale(state);
   gameMode = modeTitled(title);
   loadPictures();
   for (auto _ : state) {
@@ -211,11 +226,12 @@ void composeMode(benchmark::State& state, const std::string& title, void (*texts
     drawItems();
     texts();
     drawLines();
-    benchmark::DoNotOptimize(backBuffer->pixels());
+    benchmark::DoNotOptimize(backBuffer->raster()->pixels.data());
   }
 }
 
 void composeOursEffects(benchmark::State& state) {
+  setScale(state);
   i32 number = 0;
   for (auto _ : state) {
     setEffects(number++);
@@ -231,14 +247,29 @@ void composeOursEffects(benchmark::State& state) {
     drawPopups();
     drawTicker();
     drawLines();
-    benchmark::DoNotOptimize(backBuffer->pixels());
+    benchmark::DoNotOptimize(backBuffer->raster()->pixels.data());
   }
 }
 
 // The same blits on an easel: a class with the type Picture, load and write to make pictures,
 // begin and end around a frame, lay for the background, draw, and stretch.
 
-std::string fileOf(const std::string& path) { return nativePath(path).string(); }
+QImage loadScaled(const std::string& path, i32 width, i32 height, QImage::Format format) {
+  const QImage image(QString::fromStdString(nativePath(path).string()));
+  if (image.isNull()) throw std::runtime_error(path);
+  return image
+      .scaled(onScreen(width), onScreen(height), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+      .convertToFormat(format);
+}
+
+bool isOpaque(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (qAlpha(image.pixel(x, y)) != 255) return false;
+    }
+  }
+  return true;
+}
 
 template <typename Easel>
 class Painting {
@@ -271,7 +302,9 @@ class Painting {
  private:
   using Picture = typename Easel::Picture;
 
-  Picture image(const std::string& name) { return easel_.load("\\images\\" + name + ".bmp", true); }
+  Picture image(const std::string& name, i32 width = pieceSize, i32 height = pieceSize) {
+    return easel_.load("\\images\\" + name + ".png", width, height);
+  }
 
   template <typename List, typename Make>
   static std::vector<Picture> madeFrom(const List& list, Make make) {
@@ -337,17 +370,20 @@ class Painting {
   }
 
   Easel easel_;
-  Picture plate_ = easel_.load("\\themes\\Cells\\plate_01.bmp", false);
-  Picture frame_ = image("frame");
-  Picture pointer_ = image("pointer");
-  Picture explosion_ = image("explosion");
-  Picture zapH_ = image("zap_h");
-  Picture zapV_ = image("zap_v");
+  Picture plate_ = easel_.load("\\themes\\Cells\\plate_01.png", plateArea.right - plateArea.left,
+                               plateArea.bottom - plateArea.top);
+  Picture frame_ = image("frame", 1024, 768);
+  Picture pointer_ = image("pointer", 70, 45);
+  Picture explosion_ = image("explosion", 300, 300);
+  Picture zapH_ = image("zap_h", 80, 80);
+  Picture zapV_ = image("zap_v", 80, 80);
   std::vector<Picture> pieces_ = madeFrom(pictures, [&](const char* name) { return image(name); });
-  std::vector<Picture> frogs_ =
-      madeFrom(std::string("12345"), [&](char kind) { return image(std::string("frog0") + kind); });
-  std::vector<Picture> letters_ =
-      madeFrom(announcement, [&](char letter) { return image(std::string(1, letter)); });
+  std::vector<Picture> frogs_ = madeFrom(std::string("12345"), [&](char kind) {
+    return image(std::string("frog0") + kind, frogSize, frogSize);
+  });
+  std::vector<Picture> letters_ = madeFrom(announcement, [&](char letter) {
+    return image(std::string(1, letter), letterPitch, letterPitch);
+  });
   std::vector<Picture> lineTexts_ = written(lines);
   std::vector<Picture> counterTexts_ = written(counters);
   std::vector<Picture> popupTexts_ = writtenPoints();
@@ -355,6 +391,7 @@ class Painting {
 
 template <typename Easel>
 void composePlain(benchmark::State& state) {
+  setScale(state);
   Painting<Easel> painting;
   for (auto _ : state) {
     painting.composePlain();
@@ -364,6 +401,7 @@ void composePlain(benchmark::State& state) {
 
 template <typename Easel>
 void composeEffects(benchmark::State& state) {
+  setScale(state);
   Painting<Easel> painting;
   i32 number = 0;
   for (auto _ : state) {
@@ -383,20 +421,24 @@ class SdlEasel {
 
   SdlEasel() {
     TTF_Init();
+    const auto dots = static_cast<unsigned>(std::lround(96 * sceneScale));
     font_ = TTF_OpenFontDPI("/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf", 12,
-                            96, 96);
+                            dots, dots);
   }
   ~SdlEasel() { TTF_CloseFont(font_); }
   SdlEasel(const SdlEasel&) = delete;
   SdlEasel& operator=(const SdlEasel&) = delete;
 
-  Picture load(const std::string& path, bool keyed) {
-    const Picture file = checked(SDL_LoadBMP(fileOf(path).c_str()));
-    Picture picture = checked(SDL_ConvertSurfaceFormat(file.get(), SDL_PIXELFORMAT_RGB888, 0));
-    SDL_SetSurfaceBlendMode(picture.get(), SDL_BLENDMODE_NONE);
-    if (keyed) {
-      SDL_SetColorKey(picture.get(), SDL_TRUE, SDL_MapRGB(picture->format, 255, 255, 255));
+  Picture load(const std::string& path, i32 width, i32 height) {
+    const QImage image = loadScaled(path, width, height, QImage::Format_ARGB32);
+    Picture picture = checked(SDL_CreateRGBSurfaceWithFormat(0, image.width(), image.height(), 32,
+                                                             SDL_PIXELFORMAT_ARGB8888));
+    for (i32 y = 0; y < image.height(); ++y) {
+      std::memcpy(static_cast<char*>(picture->pixels) + y * picture->pitch, image.scanLine(y),
+                  static_cast<std::size_t>(image.width()) * sizeof(u32));
     }
+    SDL_SetSurfaceBlendMode(picture.get(),
+                            isOpaque(image) ? SDL_BLENDMODE_NONE : SDL_BLENDMODE_BLEND);
     return picture;
   }
 
@@ -406,15 +448,16 @@ class SdlEasel {
 
   void begin() { SDL_FillRect(target_.get(), nullptr, 0); }
   void end() {}
-  void lay(const Rect& area, const Picture& picture) { stretch(area, picture); }
+  void lay(const Rect& area, const Picture& picture) { draw(area.left, area.top, picture); }
 
   void draw(i32 x, i32 y, const Picture& picture) {
-    SDL_Rect place{x, y, 0, 0};
+    SDL_Rect place{onScreen(x), onScreen(y), 0, 0};
     SDL_BlitSurface(picture.get(), nullptr, target_.get(), &place);
   }
 
   void stretch(const Rect& area, const Picture& picture) {
-    SDL_Rect place{area.left, area.top, area.right - area.left, area.bottom - area.top};
+    SDL_Rect place{onScreen(area.left), onScreen(area.top), onScreen(area.right - area.left),
+                   onScreen(area.bottom - area.top)};
     SDL_BlitScaled(picture.get(), nullptr, target_.get(), &place);
   }
 
@@ -426,8 +469,8 @@ class SdlEasel {
     return Picture(surface);
   }
 
-  Picture target_ =
-      checked(SDL_CreateRGBSurfaceWithFormat(0, 1024, 768, 32, SDL_PIXELFORMAT_RGB888));
+  Picture target_ = checked(
+      SDL_CreateRGBSurfaceWithFormat(0, onScreen(1024), onScreen(768), 32, SDL_PIXELFORMAT_RGB888));
   TTF_Font* font_;
 };
 
@@ -437,24 +480,18 @@ class QtEasel {
  public:
   using Picture = QImage;
 
-  Picture load(const std::string& path, bool keyed) {
-    QImage image(QString::fromStdString(fileOf(path)));
-    if (image.isNull()) throw std::runtime_error(path);
-    if (!keyed) return image.convertToFormat(QImage::Format_RGB32);
-    image = image.convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if (image.pixel(x, y) == 0xFFFFFFFFU) image.setPixel(x, y, 0);
-      }
-    }
-    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  Picture load(const std::string& path, i32 width, i32 height) {
+    const QImage image = loadScaled(path, width, height, QImage::Format_ARGB32_Premultiplied);
+    return isOpaque(image) ? image.convertToFormat(QImage::Format_RGB32) : image;
   }
 
   Picture write(const std::string& text) {
-    const QFont font("Times New Roman", 12);
+    QFont font("Times New Roman");
+    font.setPixelSize(onScreen(16));
     const QString shown = QString::fromStdString(text);
     const QFontMetrics metrics(font);
-    QImage picture(metrics.horizontalAdvance(shown) + 2, 24, QImage::Format_ARGB32_Premultiplied);
+    QImage picture(metrics.horizontalAdvance(shown) + 2, metrics.height(),
+                   QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setPen(Qt::white);
@@ -471,21 +508,24 @@ class QtEasel {
   void end() { painter_.end(); }
 
   void lay(const Rect& area, const Picture& picture) {
-    stretch(area, picture);
+    draw(area.left, area.top, picture);
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
   }
 
-  void draw(i32 x, i32 y, const Picture& picture) { painter_.drawImage(x, y, picture); }
+  void draw(i32 x, i32 y, const Picture& picture) {
+    painter_.drawImage(onScreen(x), onScreen(y), picture);
+  }
 
   void stretch(const Rect& area, const Picture& picture) {
-    painter_.drawImage(QRect(area.left, area.top, area.right - area.left, area.bottom - area.top),
+    painter_.drawImage(QRect(onScreen(area.left), onScreen(area.top),
+                             onScreen(area.right - area.left), onScreen(area.bottom - area.top)),
                        picture);
   }
 
   const void* pixels() { return target_.bits(); }
 
  private:
-  QImage target_{1024, 768, QImage::Format_RGB32};
+  QImage target_{onScreen(1024), onScreen(768), QImage::Format_RGB32};
   QPainter painter_;
 };
 
@@ -494,15 +534,18 @@ void composeQt(benchmark::State& state) { composePlain<QtEasel>(state); }
 void composeSdlEffects(benchmark::State& state) { composeEffects<SdlEasel>(state); }
 void composeQtEffects(benchmark::State& state) { composeEffects<QtEasel>(state); }
 
-BENCHMARK(composeOurs)->Unit(benchmark::kMillisecond);
-BENCHMARK(composeSdl)->Unit(benchmark::kMillisecond);
-BENCHMARK(composeQt)->Unit(benchmark::kMillisecond);
-BENCHMARK(composeOursEffects)->Unit(benchmark::kMillisecond);
-BENCHMARK(composeSdlEffects)->Unit(benchmark::kMillisecond);
-BENCHMARK(composeQtEffects)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(composeMode, BType, "B-Type", drawScore)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(composeMode, Bowling, "Midnight Bowling", drawScoreSheet)
-    ->Unit(benchmark::kMillisecond);
+void atEachScale(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(100)->Arg(141)->Arg(200)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(composeOurs)->Apply(atEachScale);
+BENCHMARK(composeSdl)->Apply(atEachScale);
+BENCHMARK(composeQt)->Apply(atEachScale);
+BENCHMARK(composeOursEffects)->Apply(atEachScale);
+BENCHMARK(composeSdlEffects)->Apply(atEachScale);
+BENCHMARK(composeQtEffects)->Apply(atEachScale);
+BENCHMARK_CAPTURE(composeMode, BType, "B-Type", drawScore)->Apply(atEachScale);
+BENCHMARK_CAPTURE(composeMode, Bowling, "Midnight Bowling", drawScoreSheet)->Apply(atEachScale);
 
 }  // namespace
 

@@ -95,12 +95,12 @@ void report(const std::string& what, std::vector<double> seconds) {
 }  // namespace
 
 // The names that the linker's wrapping asks for.
-extern "C" void __real__ZN6glonks11showPictureEPKjii(const u32* pixels, i32 width,
-                                                     i32 height);                   // NOLINT
-extern "C" void __wrap__ZN6glonks11showPictureEPKjii(const u32* pixels, i32 width,  // NOLINT
-                                                     i32 height) {
+extern "C" void __real__ZN6glonks11showPictureERKNS_12ShownPictureE(  // NOLINT
+    const ShownPicture& picture);
+extern "C" void __wrap__ZN6glonks11showPictureERKNS_12ShownPictureE(  // NOLINT
+    const ShownPicture& picture) {
   const double begin = now();
-  __real__ZN6glonks11showPictureEPKjii(pixels, width, height);
+  __real__ZN6glonks11showPictureERKNS_12ShownPictureE(picture);
   shown.push_back({begin, now()});
   if (static_cast<i32>(shown.size()) <= loadingPictures) return;
   if (gameMode.ticket < 0) keepBusy();

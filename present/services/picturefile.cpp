@@ -43,21 +43,21 @@ Picture decodePng(const PictureFile& file) {
     refuse(file, png.message);
   }
   const bool hasAlpha = (png.format & PNG_FORMAT_FLAG_ALPHA) != 0;
-  Picture picture{static_cast<i32>(png.width), static_cast<i32>(png.height), densityOfPng,
-                  hasAlpha, {}};
+  Picture picture;
   try {
     checkSize(file, png.width, png.height);
-    picture.pixels.resize(static_cast<std::size_t>(png.width) * png.height);
+    picture = {{static_cast<i32>(png.width), static_cast<i32>(png.height)}, densityOfPng, hasAlpha};
   } catch (...) {
     png_image_free(&png);
     throw;
   }
   png.format = SDL_BYTEORDER == SDL_LIL_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
-  if (png_image_finish_read(&png, nullptr, picture.pixels.data(), 0, nullptr) == 0) {
+  std::vector<u32>& pixels = picture.raster.pixels;
+  if (png_image_finish_read(&png, nullptr, pixels.data(), 0, nullptr) == 0) {
     refuse(file, png.message);
   }
   if (hasAlpha) {
-    std::transform(picture.pixels.begin(), picture.pixels.end(), picture.pixels.begin(),
+    std::transform(pixels.begin(), pixels.end(), pixels.begin(),
                    [](u32 pixel) { return faded(pixel | opaqueBits, pixel >> alphaShift); });
   }
   return picture;
@@ -88,12 +88,12 @@ Picture decodeBitmap(const PictureFile& file) {
   if (bitmap) bitmap.reset(SDL_ConvertSurfaceFormat(bitmap.get(), SDL_PIXELFORMAT_RGB888, 0));
   if (!bitmap) refuse(file, SDL_GetError());
 
-  Picture picture{bitmap->w, bitmap->h, 1, false, {}};
-  picture.pixels.reserve(static_cast<std::size_t>(picture.width) * picture.height);
-  for (i32 y = 0; y < picture.height; ++y) {
+  Picture picture{{bitmap->w, bitmap->h}, 1, false};
+  for (i32 y = 0; y < bitmap->h; ++y) {
     const auto* row = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(bitmap->pixels) +
                                                       static_cast<std::size_t>(y) * bitmap->pitch);
-    for (i32 x = 0; x < picture.width; ++x) picture.pixels.push_back(row[x] | opaqueBits);
+    std::transform(row, row + bitmap->w, picture.raster.row(y),
+                   [](Uint32 pixel) { return pixel | opaqueBits; });
   }
   return picture;
 }

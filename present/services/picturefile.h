@@ -4,16 +4,15 @@
 #include <vector>
 
 #include "base/types.h"
+#include "present/services/raster.h"
 
 // Inside the services: pictures as files have them.
 namespace glonks {
 
 struct Picture {
-  i32 width = 0;  // pixels
-  i32 height = 0;
+  Raster raster;          // 0xAARRGGBB, colours multiplied by alpha
   i32 density = 1;        // pixels to a logical one, each way
   bool hasAlpha = false;  // whether the file says what can be seen through
-  std::vector<u32> pixels;  // rows from the top, 0xAARRGGBB, colours multiplied by alpha
 };
 
 // A file that holds a picture. It can be read again after its pixels were let go, even if the file

@@ -27,12 +27,10 @@ SDL_Window* window = nullptr;
 i32 logicalWidth = 0;
 i32 logicalHeight = 0;
 double scale = 1;
-double scaleWanted = 1;  // by the window's present size
-u32 wantedSince = 0;     // tick
-i32 pictureWidth = 0;    // of the picture that stands on the screen, pixels
-i32 pictureHeight = 0;
-std::vector<u32> shownPixels;  // the picture that stands on the screen
-u32 lastShown = 0;             // tick of the last picture
+double scaleWanted = 1;               // by the window's present size
+u32 wantedSince = 0;                  // tick
+std::shared_ptr<const Raster> shown;  // the picture that stands on the screen
+u32 lastShown = 0;                    // tick of the last picture
 
 // With a graphics processor: one texture, which it scales.
 
@@ -40,10 +38,10 @@ SDL_Renderer* renderer = nullptr;
 SDL_Texture* texture = nullptr;
 
 void createTexture() {
-  SDL_RenderSetLogicalSize(renderer, pictureWidth, pictureHeight);
   if (texture != nullptr) SDL_DestroyTexture(texture);
+  SDL_RenderSetLogicalSize(renderer, shown->width, shown->height);
   texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
-                              pictureWidth, pictureHeight);
+                              shown->width, shown->height);
   if (texture == nullptr) {
     fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
   }
@@ -55,15 +53,17 @@ void openRenderer() {
   if (renderer == nullptr) fail(ErrorNumber::serviceFailed, "The screen can't be drawn on");
 }
 
-bool upload(const u32* pixels) {
-  return SDL_UpdateTexture(texture, nullptr, pixels, pictureWidth * 4) == 0;
+bool upload(const Rect& part) {
+  const SDL_Rect place{part.left, part.top, part.right - part.left, part.bottom - part.top};
+  return SDL_UpdateTexture(texture, &place, shown->row(part.top) + part.left, shown->width * 4) ==
+         0;
 }
 
-void showTexture(const u32* pixels) {
-  std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
-  if (texture == nullptr || !upload(pixels)) {
+void showTexture(const std::vector<Rect>& changes) {
+  const bool sent = texture != nullptr && std::all_of(changes.begin(), changes.end(), upload);
+  if (!sent) {
     createTexture();  // a display that was reset takes its textures with it
-    if (!upload(pixels)) {
+    if (!upload(shown->whole())) {
       fail(ErrorNumber::serviceFailed, "The screen can't take the game's picture");
     }
   }
@@ -72,10 +72,7 @@ void showTexture(const u32* pixels) {
   SDL_RenderPresent(renderer);
 }
 
-// Without one: the window's own surface, of which only tiles that have changed are scaled and sent.
-
-constexpr i32 tileWidth = 64;
-constexpr i32 tileHeight = 32;
+// Without one: the window's own surface, of which only what has changed is scaled and sent.
 
 SDL_Surface* target = nullptr;  // SDL's own, new whenever the window's size has changed
 i32 targetWidth = 0;
@@ -86,52 +83,19 @@ bool paintWhole = true;
 
 // The largest rectangle of the picture's shape in the middle of the window.
 void fitPicture() {
-  const double fitting = std::min(static_cast<double>(target->w) / pictureWidth,
-                                  static_cast<double>(target->h) / pictureHeight);
-  const i32 width = std::max(1, static_cast<i32>(pictureWidth * fitting));
-  const i32 height = std::max(1, static_cast<i32>(pictureHeight * fitting));
+  const double fitting = std::min(static_cast<double>(target->w) / shown->width,
+                                  static_cast<double>(target->h) / shown->height);
+  const i32 width = std::max(1, static_cast<i32>(shown->width * fitting));
+  const i32 height = std::max(1, static_cast<i32>(shown->height * fitting));
   area.left = (target->w - width) / 2;
   area.top = (target->h - height) / 2;
   area.right = area.left + width;
   area.bottom = area.top + height;
-  scaler = std::make_unique<PictureScaler>(pictureWidth, pictureHeight, width, height);
+  scaler = std::make_unique<PictureScaler>(shown->width, shown->height, width, height);
   SDL_FillRect(target, nullptr, 0);
 }
 
-// Whether a tile differs from what stands on the screen; what differs is noted as standing there.
-bool updateTile(const u32* pixels, const Rect& tile) {
-  const auto bytes = static_cast<std::size_t>(tile.right - tile.left) * sizeof(u32);
-  bool differs = paintWhole;
-  for (i32 y = tile.top; y < tile.bottom; ++y) {
-    const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(y) * pictureWidth + tile.left;
-    u32* standing = shownPixels.data() + at;
-    differs = differs || std::memcmp(standing, pixels + at, bytes) != 0;
-    if (differs) std::memcpy(standing, pixels + at, bytes);
-  }
-  return differs;
-}
-
-// The changed parts of the picture: runs of changed tiles, row by row.
-std::vector<Rect> changedParts(const u32* pixels) {
-  std::vector<Rect> parts;
-  for (i32 top = 0; top < pictureHeight; top += tileHeight) {
-    const i32 bottom = std::min(top + tileHeight, pictureHeight);
-    bool inRun = false;
-    for (i32 left = 0; left < pictureWidth; left += tileWidth) {
-      const Rect tile{left, top, std::min(left + tileWidth, pictureWidth), bottom};
-      const bool differs = updateTile(pixels, tile);
-      if (differs && inRun) {
-        parts.back().right = tile.right;
-      } else if (differs) {
-        parts.push_back(tile);
-      }
-      inRun = differs;
-    }
-  }
-  return parts;
-}
-
-void showChanges(const u32* pixels) {
+void showChanges(const std::vector<Rect>& changes) {
   SDL_Surface* current = SDL_GetWindowSurface(window);
   if (current == nullptr) fail(ErrorNumber::serviceFailed, "The screen can't be drawn on");
   // A new surface may lie at the address of the old one: its size has to be looked at too.
@@ -142,25 +106,22 @@ void showChanges(const u32* pixels) {
     fitPicture();
     paintWhole = true;
   }
-  const bool whole = paintWhole;
-  const std::vector<Rect> parts = changedParts(pixels);
-  paintWhole = false;
-  if (parts.empty()) return;
   const i32 pitch = target->pitch / static_cast<i32>(sizeof(u32));
   u32* corner =
       static_cast<u32*>(target->pixels) + static_cast<std::ptrdiff_t>(area.top) * pitch + area.left;
   std::vector<SDL_Rect> sent;
-  for (const Rect& part : parts) {
+  for (const Rect& part : paintWhole ? std::vector<Rect>{shown->whole()} : changes) {
     const Rect scaled = scaler->influenced(part);
-    scaler->scale(pixels, corner, pitch, scaled);
+    scaler->scale(shown->pixels.data(), corner, pitch, scaled);
     sent.push_back({area.left + scaled.left, area.top + scaled.top, scaled.right - scaled.left,
                     scaled.bottom - scaled.top});
   }
-  if (whole) {
+  if (paintWhole) {
     SDL_UpdateWindowSurface(window);
-  } else {
+  } else if (!sent.empty()) {
     SDL_UpdateWindowSurfaceRects(window, sent.data(), static_cast<int>(sent.size()));
   }
+  paintWhole = false;
 }
 
 // Whether OpenGL here is drawn by a graphics processor, as a window that isn't shown tells.
@@ -199,20 +160,16 @@ bool openSurface() {
                                 surface->format->format == SDL_PIXELFORMAT_ARGB8888);
 }
 
-void show(const u32* pixels) {
+void show(const std::vector<Rect>& changes) {
   if (renderer != nullptr) {
-    showTexture(pixels);
+    showTexture(changes);
   } else {
-    showChanges(pixels);
+    showChanges(changes);
   }
 }
 
-// Makes room for pictures of another size.
-void setPictureSize(i32 width, i32 height) {
-  if (width == pictureWidth && height == pictureHeight) return;
-  pictureWidth = width;
-  pictureHeight = height;
-  shownPixels.assign(static_cast<std::size_t>(width) * height, 0);
+// Everything is sent with the next picture.
+void forgetScreen() {
   target = nullptr;
   paintWhole = true;
   if (texture != nullptr) SDL_DestroyTexture(texture);
@@ -251,16 +208,12 @@ void openScreen(i32 handle, i32 width, i32 height) {
 }
 
 void closeScreen() {
-  if (texture != nullptr) SDL_DestroyTexture(texture);
+  forgetScreen();
   if (renderer != nullptr) SDL_DestroyRenderer(renderer);
-  texture = nullptr;
   renderer = nullptr;
-  target = nullptr;
   window = nullptr;
   scale = 1;
-  pictureWidth = 0;
-  pictureHeight = 0;
-  shownPixels = {};
+  shown = nullptr;
 }
 
 double screenScale() {
@@ -273,22 +226,22 @@ double screenScale() {
   return scale;
 }
 
-void showPicture(const u32* pixels, i32 width, i32 height) {
+void showPicture(const ShownPicture& picture) {
   if (window == nullptr) {
     throw RuntimeError(ErrorNumber::serviceFailed, "The screen isn't there to show a picture.");
   }
   while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
   SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
-  setPictureSize(width, height);
-  show(pixels);
+  if (picture.raster != shown) forgetScreen();
+  shown = picture.raster;
+  show(picture.changes);
   lastShown = GetTickCount();
 }
 
 void repaintScreen() {
-  if (shownPixels.empty()) return;
-  target = nullptr;
-  paintWhole = true;
-  show(std::vector<u32>(shownPixels).data());
+  if (shown == nullptr) return;
+  forgetScreen();
+  show({});
 }
 
 }  // namespace glonks

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "base/types.h"
+#include "present/services/raster.h"
+#include "present/services/rect.h"
 
 // Inside the services: the picture in the game's window.
 namespace glonks {
@@ -16,12 +21,16 @@ void closeScreen();
 // still for 200 ms. 1 while no screen is open.
 double screenScale();
 
-// Shows a picture of any size, rows from the top, pixels 0x00RRGGBB, scaled if it doesn't fit the
-// window exactly. Waits so that two pictures are never less than 16 ms apart. With a graphics
-// processor the picture goes up as one texture. Without one, only the parts that differ from the
-// picture before are sent, which is what makes 40 pictures a second cheap there. Raises
-// serviceFailed.
-void showPicture(const u32* pixels, i32 width, i32 height);
+struct ShownPicture {
+  std::shared_ptr<const Raster> raster;  // 0x00RRGGBB; stays as it is until the next is shown
+  std::vector<Rect> changes;             // where it differs from the picture shown before
+};
+
+// Shows a picture of any size, scaled if it doesn't fit the window exactly. Waits so that two
+// pictures are never less than 16 ms apart. With a graphics processor the picture goes up as one
+// texture. Without one, only what has changed is sent, which is what makes 40 pictures a second
+// cheap there. Raises serviceFailed.
+void showPicture(const ShownPicture& picture);
 
 // The window's content is lost or its size has changed: shows the last picture again, whole and at
 // once. Does nothing while no screen is open. Raises serviceFailed.

@@ -2,10 +2,10 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "base/types.h"
-#include "present/services/picturefile.h"
+#include "present/services/canvas.h"
+#include "present/services/picturesource.h"
 #include "present/services/rect.h"
 
 // Surfaces: pictures in memory that can be drawn on and blitted to each other.
@@ -28,11 +28,6 @@ struct SurfaceDesc {
   i32 height = 0;
 };
 
-struct GameFont {
-  std::string name;
-  i32 size = 0;  // points; 72 are 96 pixels
-};
-
 // Flags of Blt.
 inline constexpr i32 bltOpaque = 0x1000000;  // wait
 inline constexpr i32 bltKeyed = 0x1008000;   // wait, source key
@@ -42,15 +37,13 @@ inline constexpr i32 sourceBlitKey = 8;
 class DirectDrawSurface7;
 using Surface = std::shared_ptr<DirectDrawSurface7>;
 
-// Places and sizes are logical: `scale` pixels of a surface, which may be a fraction, lie along
-// each logical one. Edges are rounded to pixels, so what meets logically meets on the surface too.
+// A surface to draw on, or the picture of a file, which isn't drawn on. Places and sizes are
+// logical, as told in canvas.h.
 class DirectDrawSurface7 {
  public:
-  // A black surface to draw on, of the given logical size.
+  // A black surface to draw on.
   DirectDrawSurface7(i32 width, i32 height, double scale = 1);
-  // The picture of a file. If it is so large that it is drawn whole or not at all, it is made ready
-  // for surfaces of `targetScale` at once, and its own pixels are let go. Raises badFile.
-  DirectDrawSurface7(PictureFile file, double targetScale);
+  explicit DirectDrawSurface7(std::shared_ptr<PictureSource> picture);
   ~DirectDrawSurface7();
   DirectDrawSurface7(const DirectDrawSurface7&) = delete;
   DirectDrawSurface7& operator=(const DirectDrawSurface7&) = delete;
@@ -58,15 +51,9 @@ class DirectDrawSurface7 {
   i32 width() const { return width_; }
   i32 height() const { return height_; }
 
-  double scale() const { return scale_; }
-  // What is drawn is kept, scaled.
-  void setScale(double scale);
-
-  // The pixels of a surface to draw on: rows from the top, 0x00RRGGBB.
-  i32 pixelWidth() const { return pixelWidth_; }
-  i32 pixelHeight() const { return pixelHeight_; }
-  const u32* pixels() const { return pixels_.data(); }
-  u32 pixel(i32 x, i32 y) const { return pixels_[static_cast<std::size_t>(y) * pixelWidth_ + x]; }
+  // Of a surface to draw on: the pixels to a logical one, each way, and all pixels, 0x00RRGGBB.
+  double scale() const;
+  std::shared_ptr<const Raster> raster() const;
 
   // `flags` 8, source blit: pixels of the key's colours are left out of keyed blits from here,
   // unless the picture says itself what can be seen through.
@@ -99,36 +86,19 @@ class DirectDrawSurface7 {
   void Flip(const Surface& overrideSurface, i32 flags);
 
  private:
-  struct Prepared;
-  struct StandingText;
-
-  Rect wholeIfZero(const Rect& rect) const;
-  Rect onPixels(const Rect& rect) const;
-  const Prepared& prepared(const Rect& from, i32 width, i32 height, bool keyed);
-  std::vector<u32> cutOut(const Rect& from, bool keyed) const;
-  bool isKey(u32 pixel) const;
-  void take(Picture picture);
-  void changed();
+  std::shared_ptr<PictureSource> source() const;
+  i32 add(DrawStep step);
 
   i32 width_;
   i32 height_;
-  double scale_;
-  i32 pixelWidth_;
-  i32 pixelHeight_;
-  std::vector<u32> pixels_;  // of a picture: 0xAARRGGBB, colours multiplied by alpha
-  PictureFile file_;         // what a picture's pixels can be had from again
-  bool isPicture_ = false;
-  bool hasAlpha_ = false;
+  std::shared_ptr<Canvas> canvas_;          // of a surface to draw on
+  std::shared_ptr<PictureSource> picture_;  // of a file's
   bool hasKey_ = false;
   ColorKey key_;
-  std::vector<Prepared> prepared_;  // what blits from here have used lately
-  std::size_t nextPrepared_ = 0;
   Surface backBuffer_;
   GameFont font_;
   i32 foreColor_ = 0;
   Flag transparent_ = True;
-  std::vector<StandingText> standing_;
-  std::size_t nextStanding_ = 0;
 };
 
 }  // namespace glonks

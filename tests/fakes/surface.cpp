@@ -40,11 +40,8 @@ std::string placed(const Rect& rect) {
 
 std::string fake::nameOf(const Surface& picture) { return picture ? names[picture.get()] : ""; }
 
-struct DirectDrawSurface7::Prepared {};
-struct DirectDrawSurface7::StandingText {};
-
-DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height, double scale)
-    : width_(width), height_(height), scale_(scale), pixelWidth_(width), pixelHeight_(height) {}
+DirectDrawSurface7::DirectDrawSurface7(i32 width, i32 height, double /*scale*/)
+    : width_(width), height_(height) {}
 DirectDrawSurface7::~DirectDrawSurface7() { names.erase(this); }
 
 void DirectDrawSurface7::SetColorKey(i32 flags, const ColorKey& key) {

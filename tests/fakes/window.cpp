@@ -28,7 +28,7 @@ void ShowCursor(i32 show) { fake::cursorShown = show; }
 void openScreen(i32, i32, i32) {}
 void closeScreen() {}
 double screenScale() { return 1; }
-void showPicture(const u32* /*pixels*/, i32 /*width*/, i32 /*height*/) { ++fake::picturesShown; }
+void showPicture(const ShownPicture& /*picture*/) { ++fake::picturesShown; }
 const KeyState& keyTable() { return fake::keys; }
 
 }  // namespace glonks

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/types.h"
+#include "present/services/picturesource.h"
+#include "present/services/raster.h"
+#include "present/services/rect.h"
+
+// Inside the services: what is drawn on.
+namespace glonks {
+
+struct GameFont {
+  std::string name;
+  i32 size = 0;  // points; 72 are 96 logical pixels
+
+  friend bool operator==(const GameFont&, const GameFont&) = default;
+};
+
+// One step of drawing, in logical places.
+struct DrawStep {
+  enum class Kind { fill, picture, text };
+  Kind kind = Kind::fill;
+  Rect to;  // of a text, its left and top
+  // A picture's part, opaque or with what can be seen through.
+  std::shared_ptr<PictureSource> source;
+  Rect from;
+  bool keyed = false;
+  // A text.
+  std::string text;
+  GameFont font;
+  bool boxed = false;  // on a black box
+  i32 color = 0;       // of the text, or of a fill
+
+  friend bool operator==(const DrawStep&, const DrawStep&) = default;
+};
+
+// A black surface that is drawn on. Steps are carried out when the pixels are asked for, and only
+// where they lead to something else than those of the time before: most of a game's picture is
+// drawn in the same way frame after frame. Places are logical: `scale` pixels, which may be a
+// fraction, lie along each logical one. Edges are rounded to pixels, so what meets logically meets
+// in pixels too.
+class Canvas {
+ public:
+  Canvas(i32 width, i32 height, double scale);
+
+  double scale() const { return scale_; }
+  // The same steps at another scale.
+  void setScale(double scale);
+
+  // Adds a step, cut off at the edges. False if nothing of it lies on the canvas. A text that was
+  // drawn in the same way, with nothing on it since, stays as it is: its smooth edges don't get
+  // thicker. Raises serviceFailed if a text's font can't be had.
+  bool draw(DrawStep step);
+
+  // The pixels, 0x00RRGGBB; they change with the next call.
+  std::shared_ptr<const Raster> raster();
+
+  // The parts of the pixels that have changed since the last call; the pixels are up to date after
+  // it.
+  std::vector<Rect> takeChanges();
+
+ private:
+  struct Entry {
+    DrawStep step;
+    Rect area;  // pixels, not cut off
+    u64 digest;
+  };
+
+  void setUp();
+  Entry entryOf(DrawStep step) const;
+  bool covers(const Entry& entry, const Rect& part) const;
+  bool standsAlready(const Entry& entry) const;
+  void flatten();
+  void update();
+  void carryOut(const Entry& entry, const Rect& part);
+  void redraw(const Rect& part);
+  Rect tilesOf(const Rect& area) const;
+  template <typename Is>
+  std::vector<Rect> partsWhere(Is is) const;
+
+  i32 width_;  // logical
+  i32 height_;
+  double scale_;
+  std::vector<Entry> entries_;  // the first covers everything
+  bool upToDate_ = false;
+  std::shared_ptr<Raster> raster_;
+  i32 tileColumns_ = 0;
+  i32 tileRows_ = 0;
+  std::vector<u64> tiles_;  // what each tile shows: a digest of the steps that touch it
+  std::vector<char> changed_;
+};
+
+}  // namespace glonks

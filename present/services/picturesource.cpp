@@ -1,0 +1,168 @@
+#include "present/services/picturesource.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+#include "present/services/picturescaler.h"
+#include "present/services/pixels.h"
+
+namespace glonks {
+namespace {
+
+// Blits repeat themselves frame after frame, so the last few forms are kept: an explosion has six
+// sizes, and where the scale isn't whole each has up to four, by the pixels that its edges are
+// rounded to.
+constexpr std::size_t mostPrepared = 32;
+constexpr std::size_t mostKept = 1U << 20U;  // pixels of a file's picture that stay in memory
+
+u32 sources = 0;  // made so far
+
+Raster scaled(const Raster& raster, i32 width, i32 height) {
+  Raster result(width, height);
+  PictureScaler(raster.width, raster.height, width, height)
+      .scale(raster.pixels.data(), result.pixels.data(), width, result.whole());
+  return result;
+}
+
+enum class Cover { none, partly, whole };
+
+Cover coverOf(u32 pixel) {
+  const u32 alpha = pixel >> alphaShift;
+  return alpha == 0 ? Cover::none : alpha == 255 ? Cover::whole : Cover::partly;
+}
+
+void findRuns(PreparedPicture& prepared) {
+  for (i32 y = 0; y < prepared.height; ++y) {
+    prepared.rows.push_back(prepared.runs.size());
+    u32* row = prepared.raster.row(y);
+    for (i32 x = 0; x < prepared.width;) {
+      const i32 start = x;
+      const Cover cover = coverOf(row[x]);
+      for (; x < prepared.width && coverOf(row[x]) == cover; ++x) {
+      }
+      if (cover == Cover::none) continue;
+      const bool solid = cover == Cover::whole;
+      for (i32 i = start; solid && i < x; ++i) row[i] &= colorBits;
+      prepared.runs.push_back({start, x - start, solid});
+    }
+  }
+  prepared.rows.push_back(prepared.runs.size());
+}
+
+}  // namespace
+
+i32 edgeAt(i32 place, double scale) { return static_cast<i32>(std::floor(place * scale + 0.5)); }
+
+Rect edgesAt(const Rect& rect, double scale) {
+  return {edgeAt(rect.left, scale), edgeAt(rect.top, scale), edgeAt(rect.right, scale),
+          edgeAt(rect.bottom, scale)};
+}
+
+void PreparedPicture::draw(Raster& target, i32 left, i32 top, const Rect& clip) const {
+  const Rect shown = common({left, top, left + width, top + height}, clip);
+  for (i32 y = shown.top; y < shown.bottom; ++y) {
+    u32* under = target.row(y);
+    const u32* over = raster.row(y - top);
+    const auto row = static_cast<std::size_t>(y - top);
+    for (std::size_t i = rows[row]; i < rows[row + 1]; ++i) {
+      const i32 first = std::max(runs[i].x, shown.left - left);
+      const i32 end = std::min(runs[i].x + runs[i].length, shown.right - left);
+      if (first >= end) continue;
+      if (runs[i].solid) {
+        std::memcpy(under + left + first, over + first,
+                    static_cast<std::size_t>(end - first) * sizeof(u32));
+      } else {
+        for (i32 x = first; x < end; ++x) {
+          under[left + x] = laidOver(under[left + x], over[x]) & colorBits;
+        }
+      }
+    }
+  }
+}
+
+PictureSource::PictureSource(PictureFile file, double targetScale) : number_(++sources) {
+  file_ = std::move(file);
+  take(decodePicture(file_));
+  if (picture_.raster.pixels.size() <= mostKept) {
+    file_ = {};
+  } else {
+    prepared({0, 0, width_, height_}, edgeAt(width_, targetScale), edgeAt(height_, targetScale),
+             hasAlpha());
+  }
+}
+
+PictureSource::PictureSource(Raster raster, double scale)
+    : picture_{std::move(raster), 1, false}, scale_(scale), number_(++sources) {
+  width_ = static_cast<i32>(std::lround(picture_.raster.width / scale));
+  height_ = static_cast<i32>(std::lround(picture_.raster.height / scale));
+}
+
+void PictureSource::take(Picture picture) {
+  picture_ = std::move(picture);
+  scale_ = picture_.density;
+  width_ = (picture_.raster.width + picture_.density - 1) / picture_.density;
+  height_ = (picture_.raster.height + picture_.density - 1) / picture_.density;
+}
+
+void PictureSource::setKey(i32 low, i32 high) {
+  if (hasAlpha()) return;
+  hasKey_ = true;
+  low_ = low;
+  high_ = high;
+}
+
+bool PictureSource::isKey(u32 pixel) const {
+  const auto color = static_cast<i32>(pixel & colorBits);
+  return color >= low_ && color <= high_;
+}
+
+Raster PictureSource::cutOut(const Rect& from, bool keyed) const {
+  Raster result(from.right - from.left, from.bottom - from.top);
+  const Rect inside = common(from, picture_.raster.whole());
+  for (i32 y = inside.top; y < inside.bottom; ++y) {
+    const u32* row = picture_.raster.row(y);
+    u32* to = result.row(y - from.top);
+    for (i32 x = inside.left; x < inside.right; ++x) {
+      if (keyed && hasKey_ && isKey(row[x])) continue;
+      to[x - from.left] = hasAlpha() ? row[x] : row[x] | opaqueBits;
+    }
+  }
+  return result;
+}
+
+const PreparedPicture& PictureSource::prepared(const Rect& from, i32 width, i32 height,
+                                               bool keyed) {
+  for (const PreparedPicture& known : prepared_) {
+    if (known.from == from && known.width == width && known.height == height &&
+        known.keyed == keyed) {
+      return known;
+    }
+  }
+  if (picture_.raster.pixels.empty()) take(decodePicture(file_));
+  const Rect part = edgesAt(from, scale_);
+  PreparedPicture fresh{from, width, height, keyed, {}, {}, {}};
+  if (hasAlpha() && part == picture_.raster.whole()) {
+    fresh.raster = scaled(picture_.raster, width, height);
+  } else {
+    fresh.raster = cutOut(part, keyed);
+    if (fresh.raster.width != width || fresh.raster.height != height) {
+      fresh.raster = scaled(fresh.raster, width, height);
+    }
+  }
+  if (!file_.bytes.empty()) picture_.raster.pixels = {};
+  if (!keyed) {
+    for (u32& pixel : fresh.raster.pixels) pixel |= opaqueBits;
+  }
+  findRuns(fresh);
+  if (prepared_.size() < mostPrepared) {
+    prepared_.push_back(std::move(fresh));
+    return prepared_.back();
+  }
+  PreparedPicture& oldest = prepared_[nextPrepared_++ % mostPrepared];
+  oldest = std::move(fresh);
+  return oldest;
+}
+
+}  // namespace glonks
