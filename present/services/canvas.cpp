@@ -56,8 +56,7 @@ void fill(Raster& raster, const Rect& part, i32 color) {
 Canvas::Canvas(i32 width, i32 height, double scale)
     : width_(width), height_(height), scale_(scale) {
   setUp();
-  entries_.push_back(entryOf({}));
-  entries_.back().area = raster_->whole();
+  draw({});
 }
 
 void Canvas::setUp() {
@@ -72,22 +71,17 @@ void Canvas::setUp() {
 void Canvas::setScale(double scale) {
   scale_ = scale;
   setUp();
-  for (Entry& entry : entries_) entry = entryOf(std::move(entry.step));
+  for (Entry& entry : entries_) entry.area = areaOf(entry.step);
 }
 
-Canvas::Entry Canvas::entryOf(DrawStep step) const {
-  Rect area;
-  if (step.kind == DrawStep::Kind::text) {
-    const TextPicture& picture = textPicture(step.font.name, step.font.size, scale_, step.text);
-    area.left = edgeAt(step.to.left, scale_);
-    area.top = edgeAt(step.to.top, scale_);
-    area.right = area.left + picture.width;
-    area.bottom = area.top + picture.height;
-  } else {
-    area = step.to == Rect{} ? raster_->whole() : edgesAt(step.to, scale_);
-  }
-  const u64 digest = digestOf(step);
-  return {std::move(step), area, digest};
+Rect Canvas::areaOf(const DrawStep& step) const {
+  if (step.to == Rect{} && step.kind != DrawStep::Kind::text) return raster_->whole();
+  Rect area = edgesAt(step.to, scale_);
+  if (step.kind != DrawStep::Kind::text || area.left >= raster_->width) return area;
+  const TextPicture& picture = textPicture(step.font.name, step.font.size, scale_, step.text);
+  area.right = area.left + picture.width;
+  area.bottom = area.top + picture.height;
+  return area;
 }
 
 bool Canvas::covers(const Entry& entry, const Rect& part) const {
@@ -106,8 +100,10 @@ bool Canvas::standsAlready(const Entry& entry) const {
 }
 
 bool Canvas::draw(DrawStep step) {
-  Entry entry = entryOf(std::move(step));
-  if (isEmpty(common(entry.area, raster_->whole()))) return false;
+  const Rect area = areaOf(step);
+  if (isEmpty(common(area, raster_->whole()))) return false;
+  const u64 digest = digestOf(step);
+  Entry entry{std::move(step), area, digest};
   if (standsAlready(entry)) return true;
   if (covers(entry, raster_->whole())) {
     entries_.clear();
@@ -126,8 +122,7 @@ void Canvas::flatten() {
   step.kind = DrawStep::Kind::picture;
   step.source = std::make_shared<PictureSource>(*raster_, scale_);
   step.from = {0, 0, step.source->width(), step.source->height()};
-  entries_.clear();
-  entries_.push_back(entryOf(std::move(step)));
+  draw(std::move(step));
 }
 
 std::shared_ptr<const Raster> Canvas::raster() {

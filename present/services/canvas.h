@@ -70,7 +70,7 @@ class Canvas {
   };
 
   void setUp();
-  Entry entryOf(DrawStep step) const;
+  Rect areaOf(const DrawStep& step) const;
   bool covers(const Entry& entry, const Rect& part) const;
   bool standsAlready(const Entry& entry) const;
   void flatten();
@@ -84,7 +84,7 @@ class Canvas {
   i32 width_;  // logical
   i32 height_;
   double scale_;
-  std::vector<Entry> entries_;  // the first covers everything
+  std::vector<Entry> entries_;  // the first covers everything, unless the canvas is empty
   bool upToDate_ = false;
   std::shared_ptr<Raster> raster_;
   i32 tileColumns_ = 0;
