@@ -26,9 +26,10 @@ u32 GetTickCount() {
   return static_cast<u32>(passed.count()) + 1;
 }
 
-void sleepToNextTick() {
+void sleepUntilTick(u32 tick) {
   const auto passed = std::chrono::duration_cast<milliseconds>(Steady::now() - start);
-  std::this_thread::sleep_until(start + passed + milliseconds(1));
+  const auto left = static_cast<i32>(tick - (static_cast<u32>(passed.count()) + 1));
+  if (left > 0) std::this_thread::sleep_until(start + passed + milliseconds(left));
 }
 
 i32 clockSeed() {

@@ -12,8 +12,8 @@ namespace glonks {
 // the machine's own count keeps game ticks positive for the first 24 days of a run.
 u32 GetTickCount();
 
-// Sleeps to the start of the next millisecond of GetTickCount, so one millisecond at the most.
-void sleepToNextTick();
+// Sleeps to the start of a tick of GetTickCount. Doesn't sleep if that has passed.
+void sleepUntilTick(u32 tick);
 
 // A number that differs from run to run and from call to call, for seeding.
 i32 clockSeed();

@@ -22,10 +22,11 @@
 #include "shell/playbutton.h"
 #include "shell/toolkit/toolkit.h"
 
-// A real game on the screen at hand, with a busy board and all effects: bench_game <game folder>
-// [seconds [mode]]. The board of Midnight Bowling stays as the game sets it. Tells the time from
-// the click on Play to the first frame, the frame period, the time that showing a picture takes,
-// the share of one core and the peak memory.
+// A real game on the screen at hand, with a busy board and, unless told "plain", all effects:
+// bench_game <game folder> [seconds [mode [plain]]]. The board of Midnight Bowling stays as the
+// game sets it. Tells the time from the click on Play to the first frame, the frame period, the
+// time that showing a picture takes, the share of one core, how often a second any thread went on
+// after waiting, and the peak memory.
 namespace {
 
 using namespace glonks;
@@ -41,16 +42,22 @@ struct Shown {
 Clock::time_point click;
 double playingSeconds = 60;
 std::vector<Shown> shown;
-double cpuAtStart = 0;
-double cpuAtEnd = 0;
+bool withEffects = true;
+
+struct Spent {
+  double cpu = 0;      // seconds
+  double wakeups = 0;  // times that a thread went on after waiting
+};
+Spent atStart, atEnd;
 
 double now() { return std::chrono::duration<double>(Clock::now() - click).count(); }
 
-double cpuSeconds() {
+Spent spentSoFar() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-         static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
+  return {static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+              static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6,
+          static_cast<double>(usage.ru_nvcsw)};
 }
 
 // Six full rows; the seventh is kept free, so that the game goes on.
@@ -104,10 +111,10 @@ extern "C" void __wrap__ZN6glonks11showPictureERKNS_12ShownPictureE(  // NOLINT
   shown.push_back({begin, now()});
   if (static_cast<i32>(shown.size()) <= loadingPictures) return;
   if (gameMode.ticket < 0) keepBusy();
-  keepEffectsUp();
-  if (now() < settling) cpuAtStart = cpuSeconds();
+  if (withEffects) keepEffectsUp();
+  if (now() < settling) atStart = spentSoFar();
   if (now() > playingSeconds + settling && gameOver == False) {
-    cpuAtEnd = cpuSeconds();
+    atEnd = spentSoFar();
     gameMode.scoreTable = False;  // no box waits for a player after the game
     gameMode.outcome = nullptr;
     gameOver = True;
@@ -116,10 +123,11 @@ extern "C" void __wrap__ZN6glonks11showPictureERKNS_12ShownPictureE(  // NOLINT
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::cerr << "usage: bench_game <game folder> [seconds [mode]]\n";
+    std::cerr << "usage: bench_game <game folder> [seconds [mode [plain]]]\n";
     return EXIT_FAILURE;
   }
   if (argc > 2) playingSeconds = leadingNumber(argv[2]);
+  withEffects = argc <= 4;
   try {
     startToolkit();
     setProgramFolder(std::filesystem::absolute(argv[1]));
@@ -145,7 +153,8 @@ int main(int argc, char** argv) {
   }
   report("frame period", periods);
   report("showing a picture", costs);
-  std::cout << "share of one core: " << (cpuAtEnd - cpuAtStart) / playingSeconds * 100 << " %\n";
+  std::cout << "share of one core: " << (atEnd.cpu - atStart.cpu) / playingSeconds * 100 << " %\n"
+            << "wakeups a second: " << (atEnd.wakeups - atStart.wakeups) / playingSeconds << "\n";
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
   std::cout << "peak memory: " << static_cast<double>(usage.ru_maxrss) / 1024 << " MB\n";

@@ -1,5 +1,7 @@
 #include "game/playloop.h"
 
+#include <algorithm>
+
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "present/effectdrawing.h"
@@ -20,7 +22,9 @@ namespace glonks {
 namespace {
 
 constexpr i32 firstSpawnDelay = 500;  // ms after the start of the loop
-constexpr i32 framePeriod = 25;       // ms, counted from the end of the Flip
+
+// When the pass has something to do again: as the times above, a game tick that has to be passed.
+i32 nextDue = 0;
 
 // fruitize gives the screen back in the middle of a frame when a picture can't be loaded. What is
 // left of the pass keeps away from it.
@@ -53,12 +57,12 @@ void payTimePoints() {
   payScore(timePoints);
 }
 
-// A pass's last steps: the song's title and end, the system's messages, the pause when the game has
-// lost the screen.
+// A pass's last steps: the song's title and end, the system's messages until something is due
+// again, the pause when the game has lost the screen.
 void endPass(Runner run) {
   if (isScreenGone()) return;
   run(showSongLine);
-  run(letMessagesThrough);
+  run([] { letMessagesThrough(static_cast<u32>(nextDue) + 1 + tickBase); });
   run([] {
     if (dd->TestCooperativeLevel() != 0 && paused == False) togglePause();
   });
@@ -114,6 +118,7 @@ void runLoop(const LoopMode& mode) {
     }
     if (nextFrame < gameTick()) runFrame(mode, nextFrame);
     payTimePoints();
+    nextDue = std::min({nextFrame, nextSpawn, nextPointsTick, gameTickIn(framePeriod)});
     endPass(mode.run);
   }
   inPlay = False;

@@ -1,5 +1,6 @@
 #include "present/pause.h"
 
+#include "base/clock.h"
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "present/screen/display.h"
@@ -23,7 +24,7 @@ void showPause() {
 
 void waitForScreen() {
   setWindowState(fConsole.hWnd, WindowState::maximised);
-  while (dd->TestCooperativeLevel() != 0) letMessagesThrough();
+  while (dd->TestCooperativeLevel() != 0) letMessagesThrough(GetTickCount() + framePeriod);
   setWindowState(fConsole.hWnd, WindowState::normal);
   dd->RestoreAllSurfaces();
 }
@@ -45,7 +46,7 @@ void setBack(i32 tick, i32 keyTickBefore) {
 
 void waitInPause() {
   while (paused == True) {
-    letMessagesThrough();
+    letMessagesThrough(GetTickCount() + framePeriod);
     if (dd->TestCooperativeLevel() == 0) {
       showPause();
     } else {

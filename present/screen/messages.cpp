@@ -5,9 +5,9 @@
 
 namespace glonks {
 
-void letMessagesThrough() {
+void letMessagesThrough(u32 until) {
   letFormMessagesThrough();
-  letWindowMessagesThrough();
+  letWindowMessagesThrough(until);
 }
 
 }  // namespace glonks

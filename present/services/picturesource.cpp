@@ -151,7 +151,7 @@ const PreparedPicture& PictureSource::prepared(const Rect& from, i32 width, i32 
       fresh.raster = scaled(fresh.raster, width, height);
     }
   }
-  if (!file_.bytes.empty()) picture_.raster.pixels = {};
+  if (!file_.bytes.empty()) picture_.raster = {};
   if (!keyed) {
     for (u32& pixel : fresh.raster.pixels) pixel |= opaqueBits;
   }

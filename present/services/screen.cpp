@@ -3,9 +3,10 @@
 #include <SDL.h>
 
 #include <algorithm>
-#include <cstring>
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "base/clock.h"
@@ -124,8 +125,23 @@ void showChanges(const std::vector<Rect>& changes) {
   paintWhole = false;
 }
 
+// Whether the system offers a device to render with. Where it doesn't, OpenGL can only be drawn in
+// software, and asking it would load some 90 MB to hear that.
+bool mayHaveGraphicsProcessor() {
+#ifdef __linux__
+  for (const char* device : {"/dev/dri", "/dev/nvidiactl", "/dev/dxg"}) {
+    std::error_code ignored;
+    if (std::filesystem::exists(device, ignored)) return true;
+  }
+  return false;
+#else
+  return true;
+#endif
+}
+
 // Whether OpenGL here is drawn by a graphics processor, as a window that isn't shown tells.
 bool probeGraphicsProcessor() {
+  if (!mayHaveGraphicsProcessor()) return false;
   SDL_Window* probe = SDL_CreateWindow("", 0, 0, 16, 16, SDL_WINDOW_OPENGL | SDL_WINDOW_HIDDEN);
   if (probe == nullptr) return false;
   bool found = false;
@@ -230,7 +246,7 @@ void showPicture(const ShownPicture& picture) {
   if (window == nullptr) {
     throw RuntimeError(ErrorNumber::serviceFailed, "The screen isn't there to show a picture.");
   }
-  while (GetTickCount() - lastShown < refreshPeriod) sleepToNextTick();
+  sleepUntilTick(lastShown + refreshPeriod);
   SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
   if (picture.raster != shown) forgetScreen();
   shown = picture.raster;

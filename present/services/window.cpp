@@ -86,6 +86,18 @@ void handle(const SDL_Event& event) {
   }
 }
 
+// True if anything was waiting.
+bool handleWaiting() {
+  bool any = false;
+  for (SDL_Event event; SDL_PollEvent(&event) != 0;) {
+    any = true;
+    handle(event);
+    if (sdlWindow == nullptr) return true;
+  }
+  if (std::exchange(repaintDue, false)) repaintScreen();
+  return any;
+}
+
 }  // namespace
 
 i32 openWindow(const std::string& caption, const WindowEvents& events) {
@@ -119,16 +131,10 @@ void setWindowTitle(i32 handle, const std::string& title) {
   if (sdlWindowOf(handle) != nullptr) SDL_SetWindowTitle(sdlWindow, title.c_str());
 }
 
-void letWindowMessagesThrough() {
-  if (sdlWindow == nullptr) return;
-  bool any = false;
-  for (SDL_Event event; SDL_PollEvent(&event) != 0;) {
-    any = true;
-    handle(event);
-    if (sdlWindow == nullptr) return;
-  }
-  if (std::exchange(repaintDue, false)) repaintScreen();
-  if (!any) sleepToNextTick();
+void letWindowMessagesThrough(u32 until) {
+  if (sdlWindow == nullptr || handleWaiting()) return;
+  const auto left = static_cast<i32>(until - GetTickCount());
+  if (left > 0 && SDL_WaitEventTimeout(nullptr, left) != 0) handleWaiting();
 }
 
 bool screenLost() { return focusLost || minimised; }

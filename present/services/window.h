@@ -28,9 +28,10 @@ void setWindowTitle(i32 handle, const std::string& title);
 
 // Handles what is waiting for the window: keys, loss and return of the focus, Alt+Enter (which
 // switches between the whole screen and a resizable window). If the window has been uncovered or
-// resized, shows the last picture again. If nothing is waiting, sleeps to the next millisecond.
-// Does nothing while no window is open. Raises serviceFailed.
-void letWindowMessagesThrough();
+// resized, shows the last picture again. If nothing is waiting, waits for the first message, but at
+// most to the tick `until` of GetTickCount, and handles it at once. Does nothing while no window is
+// open. Raises serviceFailed.
+void letWindowMessagesThrough(u32 until);
 
 // True while the window lacks the keyboard's focus or is minimised.
 bool screenLost();

@@ -20,7 +20,7 @@ void setWindowState(i32, WindowState state) {
   fake::windowStates.push_back(static_cast<i32>(state));
 }
 void setWindowTitle(i32, const std::string& title) { fake::windowTitle = title; }
-void letWindowMessagesThrough() {
+void letWindowMessagesThrough(u32 /*until*/) {
   if (fake::windowMessages) fake::windowMessages();
 }
 bool screenLost() { return fake::screenIsLost; }

@@ -215,7 +215,7 @@ struct Window : ::testing::Test {
       event.key = {type, 0, 0, 0, repeat, 0, 0, {SDL_Scancode(what), 0, modifiers, 0}};
       if (type == SDL_WINDOWEVENT) event.window.event = static_cast<Uint8>(what);
       SDL_PushEvent(&event);
-      letWindowMessagesThrough();
+      letWindowMessagesThrough(0);
     }
     return told;
   }
@@ -244,7 +244,7 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   closeWindow(handle);
   send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE);
   handle = open();
-  letWindowMessagesThrough();
+  letWindowMessagesThrough(0);
   EXPECT_TRUE(told == 0 && !screenLost()) << "a window starts afresh";
   for (const int scanCode :
        {SDL_SCANCODE_ESCAPE, SDL_SCANCODE_1, SDL_SCANCODE_2, SDL_SCANCODE_3, SDL_SCANCODE_4,
@@ -281,7 +281,7 @@ TEST_F(Window, KeepsItsSizeAndShowsThePictureAgain) {
     ASSERT_TRUE(parts == standing()) << "frame " << i;
   }
   SDL_SetWindowSize(sdlWindow, 500, 600);
-  letWindowMessagesThrough();
+  letWindowMessagesThrough(0);
   const std::vector<u32> all = standing();
   EXPECT_EQ(all[300 * 500] - all[200 * 500] - all[400 * 500], 19 * 0x0D0B07U) << "with bars";
   back->BltColorFill({}, static_cast<i32>(red));
