@@ -122,8 +122,7 @@ void main_BtnRun_Click() {
   fConsole_Show(readKeys, pauseByCloseBox);
   owe(storeFile);  // from now on credits and goods may change
   initDX();
-  const Surface loading = loadLoadingPicture();  // lives as long as this handler
-  loadGame(loading);
+  loadGame(loadLoadingPicture());
   if (succeeds(setUpMode)) playGame();
   saveStore();
   listModes();

@@ -40,8 +40,8 @@ Surface DirectDraw7::CreateSurface(const SurfaceDesc& desc) {
 }
 
 Surface DirectDraw7::CreateSurfaceFromFile(const std::string& path, SurfaceDesc& desc) {
-  auto surface = std::make_shared<DirectDrawSurface7>(
-      std::make_shared<PictureSource>(readPictureFile(path), screenScale()));
+  auto surface =
+      std::make_shared<DirectDrawSurface7>(std::make_shared<PictureSource>(readPicture(path)));
   desc.width = surface->width();
   desc.height = surface->height();
   return surface;

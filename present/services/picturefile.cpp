@@ -5,12 +5,13 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <iterator>
 
 #include "base/paths.h"
 #include "present/services/failure.h"
 #include "present/services/filebytes.h"
 #include "present/services/pixels.h"
+#include "present/services/raster.h"
 #include "present/services/sdlsurface.h"
 
 namespace glonks {
@@ -19,6 +20,12 @@ namespace {
 constexpr i32 largestPicture = 4096;  // pixels of width or height
 constexpr i32 densityOfPng = 2;
 constexpr std::array<unsigned char, 4> pngBegin = {0x89, 'P', 'N', 'G'};
+constexpr bool littleEnd = SDL_BYTEORDER == SDL_LIL_ENDIAN;
+
+struct PictureFile {
+  std::string path;
+  std::vector<unsigned char> bytes;
+};
 
 [[noreturn]] void refuse(const PictureFile& file, const std::string& reason) {
   fail(ErrorNumber::badFile, "The picture \"" + file.path + "\" can't be used", reason);
@@ -42,23 +49,30 @@ Picture decodePng(const PictureFile& file) {
   if (png_image_begin_read_from_memory(&png, file.bytes.data(), file.bytes.size()) == 0) {
     refuse(file, png.message);
   }
-  const bool hasAlpha = (png.format & PNG_FORMAT_FLAG_ALPHA) != 0;
-  Picture picture;
+  Picture picture{static_cast<i32>(png.width),
+                  static_cast<i32>(png.height),
+                  densityOfPng,
+                  (png.format & PNG_FORMAT_FLAG_ALPHA) != 0,
+                  {},
+                  {}};
+  const bool fewColors = (png.format & PNG_FORMAT_FLAG_COLORMAP) != 0;
+  png.format =
+      (littleEnd ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB) | (fewColors ? PNG_FORMAT_FLAG_COLORMAP : 0);
   try {
-    checkSize(file, png.width, png.height);
-    picture = {{static_cast<i32>(png.width), static_cast<i32>(png.height)}, densityOfPng, hasAlpha};
+    checkSize(file, picture.width, picture.height);
+    const std::size_t size = Raster::size(picture.width, picture.height);
+    picture.colors.resize(fewColors ? png.colormap_entries : size);
+    picture.indices.resize(fewColors ? size : 0);
   } catch (...) {
     png_image_free(&png);
     throw;
   }
-  png.format = SDL_BYTEORDER == SDL_LIL_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
-  std::vector<u32>& pixels = picture.raster.pixels;
-  if (png_image_finish_read(&png, nullptr, pixels.data(), 0, nullptr) == 0) {
+  void* pixels = fewColors ? static_cast<void*>(picture.indices.data()) : picture.colors.data();
+  if (png_image_finish_read(&png, nullptr, pixels, 0, picture.colors.data()) == 0) {
     refuse(file, png.message);
   }
-  if (hasAlpha) {
-    std::transform(pixels.begin(), pixels.end(), pixels.begin(),
-                   [](u32 pixel) { return faded(pixel | opaqueBits, pixel >> alphaShift); });
+  if (picture.hasAlpha) {
+    for (u32& color : picture.colors) color = faded(color | opaqueBits, color >> alphaShift);
   }
   return picture;
 }
@@ -88,11 +102,11 @@ Picture decodeBitmap(const PictureFile& file) {
   if (bitmap) bitmap.reset(SDL_ConvertSurfaceFormat(bitmap.get(), SDL_PIXELFORMAT_RGB888, 0));
   if (!bitmap) refuse(file, SDL_GetError());
 
-  Picture picture{{bitmap->w, bitmap->h}, 1, false};
+  Picture picture{bitmap->w, bitmap->h, 1, false, {}, {}};
   for (i32 y = 0; y < bitmap->h; ++y) {
     const auto* row = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(bitmap->pixels) +
                                                       static_cast<std::size_t>(y) * bitmap->pitch);
-    std::transform(row, row + bitmap->w, picture.raster.row(y),
+    std::transform(row, row + bitmap->w, std::back_inserter(picture.colors),
                    [](Uint32 pixel) { return pixel | opaqueBits; });
   }
   return picture;
@@ -100,12 +114,19 @@ Picture decodeBitmap(const PictureFile& file) {
 
 }  // namespace
 
-PictureFile readPictureFile(const std::string& path) {
-  const std::string taken = pictureFileOf(path);
-  return {taken, fileBytes(taken)};
+const u32* Picture::row(i32 y, std::vector<u32>& space) const {
+  if (indices.empty()) return &colors[Raster::size(width, y)];
+  const unsigned char* from = &indices[Raster::size(width, y)];
+  space.resize(static_cast<std::size_t>(width));
+  std::transform(from, from + width, space.begin(),
+                 [this](unsigned char index) { return colors[index]; });
+  return space.data();
 }
 
-Picture decodePicture(const PictureFile& file) {
+Picture readPicture(const std::string& path) {
+  PictureFile file;
+  file.path = pictureFileOf(path);
+  file.bytes = fileBytes(file.path);
   return isPng(file) ? decodePng(file) : decodeBitmap(file);
 }
 

@@ -15,8 +15,7 @@ constexpr i32 partsOfPixel = 4;
 }  // namespace
 
 PictureScaler::PictureScaler(i32 width, i32 height, i32 newWidth, i32 newHeight)
-    : width_(width),
-      sameSize_(width == newWidth && height == newHeight),
+    : sameSize_(width == newWidth && height == newHeight),
       columns_(side(width, newWidth)),
       rows_(side(height, newHeight)) {}
 
@@ -67,25 +66,25 @@ Rect PictureScaler::influenced(const Rect& part) const {
   return result;
 }
 
-void PictureScaler::scale(const u32* from, u32* to, i32 toPitch, const Rect& part) const {
+void PictureScaler::scale(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const {
   if (sameSize_) {
     for (i32 y = part.top; y < part.bottom; ++y) {
-      std::memcpy(to + static_cast<std::ptrdiff_t>(y) * toPitch + part.left,
-                  from + static_cast<std::ptrdiff_t>(y) * width_ + part.left,
+      std::memcpy(to + static_cast<std::ptrdiff_t>(y) * toPitch + part.left, rowOf(y) + part.left,
                   static_cast<std::size_t>(part.right - part.left) * sizeof(u32));
     }
   } else if (columns_.shrinks || rows_.shrinks) {
-    scaleByAreas(from, to, toPitch, part);
+    scaleByAreas(rowOf, to, toPitch, part);
   } else {
-    scaleByMixing(from, to, toPitch, part);
+    scaleByMixing(rowOf, to, toPitch, part);
   }
 }
 
-void PictureScaler::scaleByMixing(const u32* from, u32* to, i32 toPitch, const Rect& part) const {
+void PictureScaler::scaleByMixing(const RowOf& rowOf, u32* to, i32 toPitch,
+                                  const Rect& part) const {
   for (i32 y = part.top; y < part.bottom; ++y) {
     const Tap& row = rows_.taps[static_cast<std::size_t>(y)];
-    const u32* upper = from + static_cast<std::ptrdiff_t>(row.first) * width_;
-    const u32* lower = from + static_cast<std::ptrdiff_t>(row.last) * width_;
+    const u32* upper = rowOf(row.first);
+    const u32* lower = rowOf(row.last);
     u32* target = to + static_cast<std::ptrdiff_t>(y) * toPitch;
     for (i32 x = part.left; x < part.right; ++x) {
       const Tap& column = columns_.taps[static_cast<std::size_t>(x)];
@@ -97,7 +96,7 @@ void PictureScaler::scaleByMixing(const u32* from, u32* to, i32 toPitch, const R
 }
 
 // Row by row: first the old rows added up by their weights, then that row's pixels.
-void PictureScaler::scaleByAreas(const u32* from, u32* to, i32 toPitch, const Rect& part) const {
+void PictureScaler::scaleByAreas(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const {
   if (part.left >= part.right) return;
   const i32 firstColumn = columns_.taps[static_cast<std::size_t>(part.left)].first;
   const i32 lastColumn = columns_.taps[static_cast<std::size_t>(part.right) - 1].last;
@@ -108,8 +107,7 @@ void PictureScaler::scaleByAreas(const u32* from, u32* to, i32 toPitch, const Re
     std::fill(sums.begin(), sums.end(), 0.0F);
     for (i32 old = row.first; old <= row.last; ++old) {
       const float weight = rows_.weights[row.weights + static_cast<std::size_t>(old - row.first)];
-      const auto* bytes = reinterpret_cast<const unsigned char*>(
-          from + static_cast<std::ptrdiff_t>(old) * width_ + firstColumn);
+      const auto* bytes = reinterpret_cast<const unsigned char*>(rowOf(old) + firstColumn);
       for (i32 i = 0; i < partsInRow; ++i) sums[static_cast<std::size_t>(i)] += weight * bytes[i];
     }
     u32* target = to + static_cast<std::ptrdiff_t>(y) * toPitch;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "base/types.h"
@@ -13,6 +14,9 @@ namespace glonks {
 // 0xAARRGGBB with colours multiplied by alpha.
 class PictureScaler {
  public:
+  // A row of the old picture, which has to stay valid until the second next call.
+  using RowOf = std::function<const u32*(i32 y)>;
+
   // From pictures of `width` by `height` to ones of `newWidth` by `newHeight` pixels.
   PictureScaler(i32 width, i32 height, i32 newWidth, i32 newHeight);
 
@@ -20,7 +24,7 @@ class PictureScaler {
   Rect influenced(const Rect& part) const;
 
   // Fills the rectangle `part` of the new picture at `to`, whose rows are `toPitch` pixels apart.
-  void scale(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
+  void scale(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const;
 
  private:
   // What a new pixel is made of along one side: neighbouring old ones and their weights.
@@ -36,10 +40,9 @@ class PictureScaler {
   };
   static Side side(i32 size, i32 newSize);
   static void influence(const std::vector<Tap>& taps, i32 begin, i32 end, i32& first, i32& last);
-  void scaleByMixing(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
-  void scaleByAreas(const u32* from, u32* to, i32 toPitch, const Rect& part) const;
+  void scaleByMixing(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const;
+  void scaleByAreas(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const;
 
-  i32 width_;
   bool sameSize_;
   Side columns_;
   Side rows_;

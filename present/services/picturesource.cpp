@@ -1,6 +1,7 @@
 #include "present/services/picturesource.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <utility>
@@ -15,16 +16,19 @@ namespace {
 // sizes, and where the scale isn't whole each has up to four, by the pixels that its edges are
 // rounded to.
 constexpr std::size_t mostPrepared = 32;
-constexpr std::size_t mostKept = 1U << 20U;  // pixels of a file's picture that stay in memory
 
 u32 sources = 0;  // made so far
 
-Raster scaled(const Raster& raster, i32 width, i32 height) {
+Raster scaled(const PictureScaler::RowOf& rowOf, i32 oldWidth, i32 oldHeight, i32 width,
+              i32 height) {
   Raster result(width, height);
-  PictureScaler(raster.width, raster.height, width, height)
-      .scale(raster.pixels.data(), result.pixels.data(), width, result.whole());
+  PictureScaler(oldWidth, oldHeight, width, height)
+      .scale(rowOf, result.pixels.data(), width, result.whole());
   return result;
 }
+
+// Logical pixels, of which the last may be covered only partly.
+i32 logical(i32 pixels, double scale) { return static_cast<i32>(std::ceil(pixels / scale - 0.01)); }
 
 enum class Cover { none, partly, whole };
 
@@ -82,28 +86,19 @@ void PreparedPicture::draw(Raster& target, i32 left, i32 top, const Rect& clip) 
   }
 }
 
-PictureSource::PictureSource(PictureFile file, double targetScale) : number_(++sources) {
-  file_ = std::move(file);
-  take(decodePicture(file_));
-  if (picture_.raster.pixels.size() <= mostKept) {
-    file_ = {};
-  } else {
-    prepared({0, 0, width_, height_}, edgeAt(width_, targetScale), edgeAt(height_, targetScale),
-             hasAlpha());
-  }
-}
+PictureSource::PictureSource(Picture picture)
+    : picture_(std::move(picture)),
+      scale_(picture_.density),
+      width_(logical(picture_.width, scale_)),
+      height_(logical(picture_.height, scale_)),
+      number_(++sources) {}
 
-PictureSource::PictureSource(Raster raster, double scale)
-    : picture_{std::move(raster), 1, false}, scale_(scale), number_(++sources) {
-  width_ = static_cast<i32>(std::lround(picture_.raster.width / scale));
-  height_ = static_cast<i32>(std::lround(picture_.raster.height / scale));
-}
-
-void PictureSource::take(Picture picture) {
-  picture_ = std::move(picture);
-  scale_ = picture_.density;
-  width_ = (picture_.raster.width + picture_.density - 1) / picture_.density;
-  height_ = (picture_.raster.height + picture_.density - 1) / picture_.density;
+PictureSource::PictureSource(const Raster& raster, double scale)
+    : PictureSource({raster.width, raster.height, 1, false, raster.pixels, {}}) {
+  for (u32& color : picture_.colors) color |= opaqueBits;
+  scale_ = scale;
+  width_ = static_cast<i32>(std::lround(raster.width / scale));
+  height_ = static_cast<i32>(std::lround(raster.height / scale));
 }
 
 void PictureSource::setKey(i32 low, i32 high) {
@@ -118,15 +113,15 @@ bool PictureSource::isKey(u32 pixel) const {
   return color >= low_ && color <= high_;
 }
 
-Raster PictureSource::cutOut(const Rect& from, bool keyed) const {
+Raster PictureSource::cutOut(const Rect& from, bool byKey) const {
   Raster result(from.right - from.left, from.bottom - from.top);
-  const Rect inside = common(from, picture_.raster.whole());
+  const Rect inside = common(from, {0, 0, picture_.width, picture_.height});
+  std::vector<u32> space;
   for (i32 y = inside.top; y < inside.bottom; ++y) {
-    const u32* row = picture_.raster.row(y);
+    const u32* row = picture_.row(y, space);
     u32* to = result.row(y - from.top);
     for (i32 x = inside.left; x < inside.right; ++x) {
-      if (keyed && hasKey_ && isKey(row[x])) continue;
-      to[x - from.left] = hasAlpha() ? row[x] : row[x] | opaqueBits;
+      if (!byKey || !isKey(row[x])) to[x - from.left] = row[x];
     }
   }
   return result;
@@ -140,18 +135,20 @@ const PreparedPicture& PictureSource::prepared(const Rect& from, i32 width, i32 
       return known;
     }
   }
-  if (picture_.raster.pixels.empty()) take(decodePicture(file_));
   const Rect part = edgesAt(from, scale_);
   PreparedPicture fresh{from, width, height, keyed, {}, {}, {}};
-  if (hasAlpha() && part == picture_.raster.whole()) {
-    fresh.raster = scaled(picture_.raster, width, height);
+  const bool byKey = keyed && hasKey_;
+  if (part == Rect{0, 0, picture_.width, picture_.height} && !byKey) {
+    std::array<std::vector<u32>, 2> spaces;
+    const auto rowOf = [&, next = 0U](i32 y) mutable {
+      return picture_.row(y, spaces[++next % 2]);
+    };
+    fresh.raster = scaled(rowOf, picture_.width, picture_.height, width, height);
   } else {
-    fresh.raster = cutOut(part, keyed);
-    if (fresh.raster.width != width || fresh.raster.height != height) {
-      fresh.raster = scaled(fresh.raster, width, height);
-    }
+    const Raster cut = cutOut(part, byKey);
+    const auto rowOf = [&](i32 y) { return cut.row(y); };
+    fresh.raster = scaled(rowOf, cut.width, cut.height, width, height);
   }
-  if (!file_.bytes.empty()) picture_.raster = {};
   if (!keyed) {
     for (u32& pixel : fresh.raster.pixels) pixel |= opaqueBits;
   }

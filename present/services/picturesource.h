@@ -34,11 +34,9 @@ struct PreparedPicture {
 // A picture of `scale` pixels to a logical one, each way.
 class PictureSource {
  public:
-  // The picture of a file. If it is so large that it is drawn whole or not at all, it is made ready
-  // for targets of `targetScale` at once, and its own pixels are let go. Raises badFile.
-  PictureSource(PictureFile file, double targetScale);
+  explicit PictureSource(Picture picture);
   // Pixels 0x00RRGGBB as they are.
-  PictureSource(Raster raster, double scale);
+  PictureSource(const Raster& raster, double scale);
 
   i32 width() const { return width_; }  // logical
   i32 height() const { return height_; }
@@ -54,15 +52,13 @@ class PictureSource {
   const PreparedPicture& prepared(const Rect& from, i32 width, i32 height, bool keyed);
 
  private:
-  void take(Picture picture);
-  Raster cutOut(const Rect& from, bool keyed) const;
+  Raster cutOut(const Rect& from, bool byKey) const;
   bool isKey(u32 pixel) const;
 
-  PictureFile file_;  // what the pixels can be had from again
   Picture picture_;
-  i32 width_ = 0;
-  i32 height_ = 0;
-  double scale_ = 1;
+  double scale_;
+  i32 width_;
+  i32 height_;
   bool hasKey_ = false;
   i32 low_ = 0;
   i32 high_ = 0;

@@ -113,7 +113,7 @@ void showChanges(const std::vector<Rect>& changes) {
   std::vector<SDL_Rect> sent;
   for (const Rect& part : paintWhole ? std::vector<Rect>{shown->whole()} : changes) {
     const Rect scaled = scaler->influenced(part);
-    scaler->scale(shown->pixels.data(), corner, pitch, scaled);
+    scaler->scale([](i32 y) { return shown->row(y); }, corner, pitch, scaled);
     sent.push_back({area.left + scaled.left, area.top + scaled.top, scaled.right - scaled.left,
                     scaled.bottom - scaled.top});
   }
