@@ -10,7 +10,7 @@
 namespace glonks {
 namespace {
 
-constexpr i32 tileWidth = 64;  // pixels
+constexpr i32 tileWidth = 32;  // pixels
 constexpr i32 tileHeight = 32;
 constexpr std::size_t mostEntries = 2000;  // several times those of the busiest frame
 
@@ -85,9 +85,17 @@ Rect Canvas::areaOf(const DrawStep& step) const {
 }
 
 bool Canvas::covers(const Entry& entry, const Rect& part) const {
-  const bool solid = entry.step.kind == DrawStep::Kind::fill ||
-                     (entry.step.kind == DrawStep::Kind::picture && !entry.step.keyed);
-  return solid && contains(entry.area, part);
+  if (entry.step.kind == DrawStep::Kind::text || !contains(entry.area, part)) return false;
+  if (!entry.step.keyed) return true;
+  return preparedFor(entry).hides(
+      {part.left - entry.area.left, part.top - entry.area.top, part.right - entry.area.left,
+       part.bottom - entry.area.top});
+}
+
+const PreparedPicture& Canvas::preparedFor(const Entry& entry) {
+  const Rect& area = entry.area;
+  return entry.step.source->prepared(entry.step.from, area.right - area.left,
+                                     area.bottom - area.top, entry.step.keyed);
 }
 
 bool Canvas::standsAlready(const Entry& entry) const {
@@ -214,8 +222,7 @@ void Canvas::carryOut(const Entry& entry, const Rect& part) {
   if (step.kind == DrawStep::Kind::fill) {
     fill(*raster_, part, step.color);
   } else if (step.kind == DrawStep::Kind::picture) {
-    step.source->prepared(step.from, area.right - area.left, area.bottom - area.top, step.keyed)
-        .draw(*raster_, area.left, area.top, part);
+    preparedFor(entry).draw(*raster_, area.left, area.top, part);
   } else {
     if (step.boxed) fill(*raster_, part, 0);
     const TextPicture& picture = textPicture(step.font.name, step.font.size, scale_, step.text);
@@ -224,7 +231,9 @@ void Canvas::carryOut(const Entry& entry, const Rect& part) {
       const unsigned char* coverage =
           picture.coverage.data() + Raster::size(picture.width, y - area.top);
       for (i32 x = part.left; x < part.right; ++x) {
-        const u32 over = faded(static_cast<u32>(step.color) | opaqueBits, coverage[x - area.left]);
+        const u32 covered = coverage[x - area.left];
+        if (covered == 0) continue;
+        const u32 over = faded(static_cast<u32>(step.color) | opaqueBits, covered);
         row[x] = laidOver(row[x], over) & colorBits;
       }
     }

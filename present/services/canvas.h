@@ -72,6 +72,7 @@ class Canvas {
   void setUp();
   Rect areaOf(const DrawStep& step) const;
   bool covers(const Entry& entry, const Rect& part) const;
+  static const PreparedPicture& preparedFor(const Entry& entry);
   bool standsAlready(const Entry& entry) const;
   void flatten();
   void update();

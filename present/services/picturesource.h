@@ -29,6 +29,9 @@ struct PreparedPicture {
   // Draws the picture with its top left at (left, top), as far as it lies in `clip`, which lies in
   // the target.
   void draw(Raster& target, i32 left, i32 top, const Rect& clip) const;
+
+  // Whether nothing under a part of the picture can be seen.
+  bool hides(const Rect& part) const;
 };
 
 // A picture of `scale` pixels to a logical one, each way.

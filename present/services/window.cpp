@@ -16,6 +16,7 @@ namespace {
 WindowEvents handlers;
 bool focusLost = false;
 bool minimised = false;
+u32 lastWait = 0;         // tick of the end of the last wait for messages
 bool repaintDue = false;  // the window's content has been lost, or its size has changed
 
 void loseFocus() {
@@ -98,6 +99,21 @@ bool handleWaiting() {
   return any;
 }
 
+// SDL's wait ends as far into a millisecond as it has begun. A frame that took long begins the wait
+// late in one; the last millisecond is then for the clock, so that the next frame isn't later
+// still. That costs a second awakening, which the usual short frames go without.
+void waitForMessage(u32 until) {
+  constexpr u32 longFrame = 2;  // ms
+  const u32 now = GetTickCount();
+  const bool toTheTick = now - lastWait >= longFrame;
+  const i32 wait = static_cast<i32>(until - now) - (toTheTick ? 1 : 0);
+  if (wait > 0 && SDL_WaitEventTimeout(nullptr, wait) != 0) {
+    handleWaiting();
+  } else if (toTheTick) {
+    sleepUntilTick(until);
+  }
+}
+
 }  // namespace
 
 i32 openWindow(const std::string& caption, const WindowEvents& events) {
@@ -133,8 +149,8 @@ void setWindowTitle(i32 handle, const std::string& title) {
 
 void letWindowMessagesThrough(u32 until) {
   if (sdlWindow == nullptr || handleWaiting()) return;
-  const auto left = static_cast<i32>(until - GetTickCount());
-  if (left > 0 && SDL_WaitEventTimeout(nullptr, left) != 0) handleWaiting();
+  waitForMessage(until);
+  lastWait = GetTickCount();
 }
 
 bool screenLost() { return focusLost || minimised; }
