@@ -25,31 +25,43 @@ def facets(ctx, outline, faces, colour):
 def rock_round(ctx):
     outline = [(24, 10), (58, 5), (82, 27), (86, 56), (66, 84), (28, 85), (5, 62), (7, 30)]
     facets(ctx, outline, [
-        ([(24, 10), (58, 5), (50, 30), (26, 36)], .5), ([(58, 5), (82, 27), (66, 46), (50, 30)], .22),
-        ([(24, 10), (26, 36), (16, 56), (5, 62), (7, 30)], .3), ([(26, 36), (50, 30), (66, 46), (48, 64), (16, 56)], .1),
-        ([(82, 27), (86, 56), (66, 84), (48, 64), (66, 46)], -.35), ([(16, 56), (48, 64), (66, 84), (28, 85), (5, 62)], -.22)],
+        ([(24, 10), (58, 5), (50, 30), (26, 36)], .72), ([(58, 5), (82, 27), (66, 46), (50, 30)], .12),
+        ([(24, 10), (26, 36), (16, 56), (5, 62), (7, 30)], .4), ([(26, 36), (50, 30), (66, 46), (48, 64), (16, 56)], -.3),
+        ([(82, 27), (86, 56), (66, 84), (48, 64), (66, 46)], -.62), ([(16, 56), (48, 64), (66, 84), (28, 85), (5, 62)], -.1)],
         rgb("8a8f98"))
     stroke(ctx, line((36, 44), (44, 50), (41, 58)), (.1, .1, .12), 2)
 
 
 def rock_pile(ctx):
-    """Three brown stones, one on top of two."""
+    """Three stones, a brown one on top of a pale and a dark one."""
     tan = rgb("a8794e")
-    for x, y, w, h, tone in ((5, 48, 42, 37, tan), (42, 52, 43, 33, darker(tan, .2)), (22, 20, 46, 36, lighter(tan, .12))):
+    for x, y, w, h, tone in ((5, 48, 42, 37, lighter(tan, .66)), (42, 52, 43, 33, darker(tan, .5)),
+                             (22, 20, 46, 36, darker(tan, .05))):
         path = blob([(x + w * u, y + h * v) for u, v in
                      ((.2, .08), (.62, 0), (.95, .3), (1, .72), (.7, 1), (.25, .98), (0, .66), (.03, .3))])
-        glossy(ctx, path, tone, 3.2, .35)
+        glossy(ctx, path, tone, 3.2, .35, rgb("1c120c"))
         for u, v in ((.55, .55), (.3, .72), (.74, .66)):
             fill(ctx, ellipse(x + w * u, y + h * v, 2.6, 1.8), darker(tone, .5))
 
 
 def rock_peak(ctx):
+    """A dark summit under snow."""
     outline = [(40, 3), (54, 22), (64, 16), (72, 48), (87, 60), (82, 86), (8, 86), (4, 64), (18, 52), (24, 24)]
     facets(ctx, outline, [
-        ([(40, 3), (54, 22), (46, 60), (34, 40)], .18), ([(40, 3), (34, 40), (18, 52), (24, 24)], .42),
-        ([(54, 22), (64, 16), (72, 48), (46, 60)], -.3), ([(72, 48), (87, 60), (82, 86), (56, 86), (46, 60)], -.5),
-        ([(18, 52), (34, 40), (46, 60), (26, 86), (8, 86), (4, 64)], .05), ([(46, 60), (56, 86), (26, 86)], -.2)],
-        rgb("6a738c"))
+        ([(40, 3), (54, 22), (46, 60), (34, 40)], .02), ([(40, 3), (34, 40), (18, 52), (24, 24)], .25),
+        ([(54, 22), (64, 16), (72, 48), (46, 60)], -.4), ([(72, 48), (87, 60), (82, 86), (56, 86), (46, 60)], -.6),
+        ([(18, 52), (34, 40), (46, 60), (26, 86), (8, 86), (4, 64)], -.08), ([(46, 60), (56, 86), (26, 86)], -.32)],
+        rgb("566079"))
+    ctx.save()
+    polygon(outline, 6)(ctx)
+    ctx.clip()
+    snow = [(40, 0), (54, 20), (66, 12), (71, 46), (64, 36), (58, 46), (51, 34), (44, 48), (37, 36), (29, 50), (26, 38),
+            (18, 46), (22, 20)]
+    fill(ctx, polygon(snow, 2), rgb("f4f8ff"))
+    fill(ctx, polygon([(54, 20), (66, 12), (71, 46), (64, 36), (58, 46), (51, 34)], 2), rgb("b9c6de"))
+    stroke(ctx, polygon(snow, 2), rgb("1d2436"), 1.4)
+    ctx.restore()
+    stroke(ctx, polygon(outline, 6), rgb("0c0f1a"), 3.4)
 
 
 def slammer(ctx):
@@ -73,20 +85,21 @@ def slammer(ctx):
 
 def bomb(ctx):
     tube(ctx, curve(58, 24, 62, 10, 72, 6, 76, 15), rgb("c9a26a"), 4, 2.4)
-    stroke(ctx, star(77, 17, 8, 9.5, 5), rgb("4a1600"), 5)
-    fill(ctx, star(77, 17, 8, 9.5, 5), rgb("ff9a1f"))
-    fill(ctx, circle(77, 17, 4), rgb("fff2b0"))
+    stroke(ctx, star(75, 17, 8, 12.2, 6.4), rgb("4a1600"), 5)
+    fill(ctx, star(75, 17, 8, 12.2, 6.4), rgb("ff9a1f"))
+    fill(ctx, circle(75, 17, 5.2), rgb("fff2b0"))
     glossy(ctx, circle(40, 52, 33.5), rgb("41444f"), edge=rgb("08080b"), shine=.75)
     ctx.save()
     ctx.translate(58, 27)
     ctx.rotate(math.radians(38))
     sloped(ctx, box(-11, -6, 22, 12, 3), lighter(STEEL, .5), darker(STEEL, .4), diagonal=False)
     ctx.restore()
-    glossy(ctx, star(40, 56, 3, 15, 8, 2, 90), rgb("e8452c"), 2, .3)
+    glossy(ctx, star(40, 57, 3, 18.5, 9.6, 2, 90), rgb("ff5a3c"), 2, .3)
 
 
 def bauble(ctx):
-    glass = rgb("c2318f")
+    """Dark glass with a pale belt and a star on it."""
+    glass = rgb("a31c78")
     stroke(ctx, ellipse(45, 10.5, 5, 5), rgb("241a04"), 6.5)
     stroke(ctx, ellipse(45, 10.5, 5, 5), GOLD, 2.8)
     sloped(ctx, box(33, 13, 24, 13, 3), lighter(GOLD, .5), darker(GOLD, .4), edge=rgb("2b1c02"), diagonal=False)
@@ -95,11 +108,14 @@ def bauble(ctx):
     ctx.save()
     ball(ctx)
     ctx.clip()
-    for y in (38, 72):
-        stroke(ctx, curve(8, y, 30, y + 9, 60, y + 9, 82, y), rgb("ffd9ec"), 3, .75)
+    belt = curve(8, 40, 30, 48, 60, 48, 82, 40, 82, 50, 82, 60, 82, 70, 60, 80, 30, 80, 8, 70)
+    belt(ctx)
+    ctx.clip()
+    glossy(ctx, ball, rgb("ffe2f2"), 0)
+    stroke(ctx, belt, rgb("4a0b36"), 4.8)
     ctx.restore()
     stroke(ctx, ball, darker(glass, .84), 3)
-    glossy(ctx, star(45, 59, 5, 14.5, 6.5, 1), rgb("ffe9a8"), 2, .2, rgb("4a0b36"))
+    glossy(ctx, star(45, 61, 5, 14.5, 6.5, 1), glass, 2, .2, rgb("4a0b36"))
 
 
 def diamond(ctx):
@@ -118,61 +134,66 @@ def diamond(ctx):
     fill(ctx, star(25, 27, 4, 9, 2), (.98, .98, .98))
 
 
-def calculator(ctx, body, display, key, is_plus):
+def calculator(ctx, body, display, key, sign, is_plus):
     sloped(ctx, box(12, 4, 66, 82, 9), lighter(body, .3), darker(body, .35))
     stroke(ctx, line((20, 8), (70, 8)), (1, 1, 1), 2, .4)
     sloped(ctx, box(19, 12, 52, 38, 4), lighter(display, .3), darker(display, .25), 2.6, rgb("0a0a0a"))
-    sign = rgb("07140a") if is_plus else rgb("fff4ee")
-    fill(ctx, box(31, 27.5, 28, 7), sign)
+    fill(ctx, box(30, 27, 30, 8), sign)
     if is_plus:
-        fill(ctx, box(41.5, 17, 7, 28), sign)
+        fill(ctx, box(41, 16, 8, 30), sign)
     for row in range(2):
         for col in range(4):
             sloped(ctx, box(19 + col * 13.6, 57 + row * 13, 11, 9.5, 2.5), lighter(key, .4), darker(key, .2), 1.4)
 
 
 def calculator_plus(ctx):
-    calculator(ctx, rgb("d9dde2"), rgb("6fdc63"), rgb("66707e"), True)
+    calculator(ctx, rgb("d9dde2"), rgb("16402a"), rgb("66707e"), rgb("8dff7a"), True)
 
 
 def calculator_minus(ctx):
-    calculator(ctx, rgb("3b3f4c"), rgb("d22727"), rgb("c9ced8"), False)
+    calculator(ctx, rgb("3b3f4c"), rgb("ff8464"), rgb("c9ced8"), rgb("3a0808"), False)
 
 
 def shifter(ctx):
-    teal = rgb("0fa3a0")
+    teal = rgb("0a7580")
     glossy(ctx, box(3, 20, 84, 50, 25), teal, shine=.4)
-    arrow = polygon([(9, 45), (29, 27), (29, 38), (61, 38), (61, 27), (81, 45),
-                     (61, 63), (61, 52), (29, 52), (29, 63)], 1.5)
+    arrow = polygon([(8, 45), (29, 25), (29, 37), (61, 37), (61, 25), (82, 45),
+                     (61, 65), (61, 53), (29, 53), (29, 65)], 1.5)
     sloped(ctx, arrow, rgb("fffbe8"), rgb("ffd98a"), 2.4, rgb("033635"))
 
 
 def bowling_ball(ctx):
+    """Two-toned: the holes lie in the pale part."""
     shell = rgb("3c2a92")
     ball = circle(45, 45, 40.5)
     glossy(ctx, ball, shell, shine=.75, edge=rgb("0a0620"))
     ctx.save()
     ball(ctx)
     ctx.clip()
-    for dx, dy in ((0, 22), (10, 40), (26, 54)):
-        stroke(ctx, curve(-4, 52 + dy * .6, 24, 40 + dy, 40, 70 + dy * .3, 92, 34 + dy), rgb("8e7bff"), 2.4, .4)
+    pale = curve(24, -2, 30, 18, 22, 30, 34, 44, 46, 58, 62, 50, 92, 62, 92, 30, 80, -4, 24, -2)
+    stroke(ctx, curve(4, 58, 22, 72, 44, 82, 72, 76), rgb("8e7bff"), 2.4, .6)
+    pale(ctx)
+    ctx.clip()
+    glossy(ctx, ball, rgb("cfc4ff"), 0, .75)
+    stroke(ctx, pale, rgb("1d1260"), 4)
     ctx.restore()
     stroke(ctx, ball, rgb("0a0620"), 3)
-    for x, y in ((50, 27), (66, 34), (54, 46)):
-        fill(ctx, ellipse(x, y, 6.6, 6.2), lighter(shell, .45))
-        fill(ctx, ellipse(x - .8, y - .8, 5.8, 5.4), rgb("07040f"))
+    for x, y in ((50, 22), (68, 30), (53, 42)):
+        fill(ctx, ellipse(x, y, 7.6, 7.2), (1, 1, 1), .8)
+        fill(ctx, ellipse(x - .8, y - .8, 6.8, 6.4), rgb("07040f"))
 
 
 def money(ctx):
-    """A twelve-sided coin with a bar through its letter."""
+    """A twelve-sided coin, dark within its rim, with a bar through its letter."""
     def coin(x, y, r):
         return polygon([(x + r * math.cos(math.radians(15 + 30 * i)), y + r * math.sin(math.radians(15 + 30 * i)))
                         for i in range(12)], 3)
     glossy(ctx, coin(47.5, 48, 38.5), darker(GOLD, .45), edge=rgb("2c1a02"))
     glossy(ctx, coin(43, 43, 38.5), GOLD, shine=.5, edge=rgb("2c1a02"))
-    stroke(ctx, coin(43, 43, 31), darker(GOLD, .5), 2.4)
-    stroke(ctx, line((44, 17), (44, 69)), rgb("5c3a04"), 5)
-    glyphs.letter(ctx, "G", 31.5, 27, 5.4, 7, rgb("7a4c06"), 0)
+    sloped(ctx, coin(43, 43, 29), rgb("4a2c04"), rgb("8a5a12"), 2.4, rgb("2c1a02"))
+    for y in (19.5, 60.5):
+        stroke(ctx, line((44, y), (44, y + 6)), rgb("ffdc7a"), 6.4)
+    glyphs.letter(ctx, "G", 32.5, 27.5, 5.2, 8.6, rgb("ffcf4a"), 0)
 
 
 def music(ctx):
@@ -198,9 +219,20 @@ def detonator(ctx):
 
 
 def b_type(ctx):
-    """Hexagonal tile with a B."""
-    glossy(ctx, polygon([(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)], 6), rgb("17a06a"), 4)
-    glyphs.letter(ctx, "B", 33, 24, 7, 11, rgb("fff0b8"), 3)
+    """Hexagonal tile with a B cut into it."""
+    tile = [(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)]
+    glossy(ctx, polygon(tile, 6), rgb("17a06a"), 4)
+    face = polygon([(45 + (x - 45) * .8, 45 + (y - 45) * .8) for x, y in tile], 5)
+    sloped(ctx, face, rgb("f4fff0"), rgb("9fe6bd"), 2, rgb("06351f"))
+    for shift, colour in ((1.4, rgb("ffffff")), (0, rgb("06402a"))):
+        ctx.save()
+        ctx.translate(33.5 + shift, 26 + shift)
+        ctx.scale(6.3, 6.3)
+        glyphs.trace(ctx, "B")
+        ctx.restore()
+        ctx.set_source_rgb(*colour)
+        ctx.set_line_width(9)
+        ctx.stroke()
 
 
 # How far down, half the width there. A pin stands on the next one's head.
