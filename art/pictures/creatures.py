@@ -14,7 +14,7 @@ def glonk_round(ctx):
     for x, tip in ((37, 26), (53, 64)):
         tube(ctx, line((x, 16), (tip, 9)), RED, 3.4, 2)
         glossy(ctx, circle(tip, 9, 6.2), horn, 2.4, edge=rgb("3a0d0a"))
-    glossy(ctx, circle(45, 48, 35.5), rgb("d42626"))
+    glossy(ctx, circle(45, 48, 35.5), rgb("c62020"))
     eye(ctx, 32, 39, 11)
     eye(ctx, 58, 39, 11)
     mouth = curve(18, 55, 22, 86, 68, 86, 72, 55, 58, 60, 32, 60, 18, 55)
@@ -35,15 +35,15 @@ def glonk_square(ctx):
     fill(ctx, ellipse(45, 39, 29, 20.5), darker(BLUE, .72))
     eye(ctx, 45, 39, 18.5, (.1, .12), rgb("1f9a9a"))
     stroke(ctx, line((20, 18), (45, 23), (70, 18)), INK, 5)
-    mouth = box(16, 63, 58, 16, 5)
+    mouth = box(10.5, 62, 69, 18, 5)
     fill(ctx, mouth, (.05, .05, .22))
-    for x in (19, 32.5, 46, 59.5):
-        fill(ctx, box(x, 64, 11.5, 9.5, 2), (.96, .96, .93))
+    for x in (13.5, 30, 46.5, 63):
+        fill(ctx, box(x, 63.5, 14, 11, 2.5), (.96, .96, .93))
     stroke(ctx, mouth, INK, 2.4)
 
 
 def glonk_triangle(ctx):
-    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), rgb("94ea60"), edge=rgb("06280f"))
+    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), rgb("a0ee6a"), edge=rgb("06280f"))
     eye(ctx, 45, 27, 7.5, (0, .3))
     eye(ctx, 31, 48, 8.5)
     eye(ctx, 59, 48, 8.5)
@@ -60,11 +60,11 @@ def glonk_triangle(ctx):
 
 
 def glonk_star(ctx):
-    glossy(ctx, star(45, 48, 5, 45, 25, 7), YELLOW, edge=rgb("402604"))
+    glossy(ctx, star(45, 48, 5, 45, 23.8, 7), rgb("ffd040"), edge=rgb("402604"))
     eye(ctx, 36, 39, 8, (0, -.1))
     eye(ctx, 54, 39, 8, (0, -.1))
-    fill(ctx, ellipse(45, 61, 9.5, 11), (.32, .1, .02))
-    fill(ctx, ellipse(45, 66, 6, 4.4), rgb("ff7a5a"))
+    fill(ctx, ellipse(45, 61, 10.5, 12.5), (.32, .1, .02))
+    fill(ctx, ellipse(45, 67, 6.4, 4.6), rgb("ff7a5a"))
     for x in (25.5, 64.5):
         fill(ctx, ellipse(x, 52, 4.5, 2.8), rgb("ff7f2a"), .7)
 

@@ -8,28 +8,38 @@ from .shapes import (blob, box, circle, curve, darker, ellipse, fill, glossy, li
 STEEL, GOLD = rgb("8d99a8"), rgb("f2b632")
 
 
+def within(ctx, path, draw):
+    """Draws only what lies inside a path."""
+    ctx.save()
+    path(ctx)
+    ctx.clip()
+    draw()
+    ctx.restore()
+
+
 def facets(ctx, outline, faces, colour):
     """A chipped stone: flat faces, each with its own amount of light."""
     sloped(ctx, polygon(outline, 6), lighter(colour, .15), darker(colour, .5), 0)
-    ctx.save()
-    polygon(outline, 6)(ctx)
-    ctx.clip()
-    for points, light in faces:
-        shade = lighter(colour, light) if light > 0 else darker(colour, -light)
-        fill(ctx, polygon(points), shade)
-        stroke(ctx, polygon(points), darker(colour, .55), 1)
-    ctx.restore()
+
+    def chipped():
+        for points, light in faces:
+            shade = lighter(colour, light) if light > 0 else darker(colour, -light)
+            fill(ctx, polygon(points), shade)
+            stroke(ctx, polygon(points), darker(colour, .55), 1)
+
+    within(ctx, polygon(outline, 6), chipped)
     stroke(ctx, polygon(outline, 6), darker(colour, .86), 3.4)
 
 
 def rock_round(ctx):
-    outline = [(24, 10), (58, 5), (82, 27), (86, 56), (66, 84), (28, 85), (5, 62), (7, 30)]
+    """A squat boulder."""
+    outline = [(20, 27), (56, 20), (82, 34), (87, 60), (70, 85), (24, 86), (3, 68), (5, 46)]
     facets(ctx, outline, [
-        ([(24, 10), (58, 5), (50, 30), (26, 36)], .72), ([(58, 5), (82, 27), (66, 46), (50, 30)], .12),
-        ([(24, 10), (26, 36), (16, 56), (5, 62), (7, 30)], .4), ([(26, 36), (50, 30), (66, 46), (48, 64), (16, 56)], -.3),
-        ([(82, 27), (86, 56), (66, 84), (48, 64), (66, 46)], -.62), ([(16, 56), (48, 64), (66, 84), (28, 85), (5, 62)], -.1)],
+        ([(20, 27), (56, 20), (50, 40), (24, 46)], .85), ([(56, 20), (82, 34), (66, 52), (50, 40)], .3),
+        ([(20, 27), (24, 46), (15, 63), (3, 68), (5, 46)], .55), ([(24, 46), (50, 40), (66, 52), (48, 69), (15, 63)], -.3),
+        ([(82, 34), (87, 60), (70, 85), (48, 69), (66, 52)], -.68), ([(15, 63), (48, 69), (70, 85), (24, 86), (3, 68)], -.1)],
         rgb("8a8f98"))
-    stroke(ctx, line((36, 44), (44, 50), (41, 58)), (.1, .1, .12), 2)
+    stroke(ctx, line((37, 50), (45, 55), (41, 62)), (.1, .1, .12), 2)
 
 
 def rock_pile(ctx):
@@ -45,22 +55,22 @@ def rock_pile(ctx):
 
 
 def rock_peak(ctx):
-    """A dark summit under snow."""
-    outline = [(40, 3), (54, 22), (64, 16), (72, 48), (87, 60), (82, 86), (8, 86), (4, 64), (18, 52), (24, 24)]
+    """A summit under snow, with a lit and a dark flank."""
+    outline = [(42, 2), (55, 18), (64, 15), (71, 46), (81, 60), (80, 86), (12, 86), (9, 64), (20, 50), (27, 22)]
     facets(ctx, outline, [
-        ([(40, 3), (54, 22), (46, 60), (34, 40)], .02), ([(40, 3), (34, 40), (18, 52), (24, 24)], .25),
-        ([(54, 22), (64, 16), (72, 48), (46, 60)], -.4), ([(72, 48), (87, 60), (82, 86), (56, 86), (46, 60)], -.6),
-        ([(18, 52), (34, 40), (46, 60), (26, 86), (8, 86), (4, 64)], -.08), ([(46, 60), (56, 86), (26, 86)], -.32)],
+        ([(42, 2), (55, 18), (47, 60), (35, 40)], .02), ([(42, 2), (35, 40), (20, 50), (27, 22)], .25),
+        ([(55, 18), (64, 15), (71, 46), (47, 60)], -.4), ([(71, 46), (81, 60), (80, 86), (56, 86), (47, 60)], -.6),
+        ([(20, 50), (35, 40), (47, 60), (28, 86), (12, 86), (9, 64)], .48), ([(47, 60), (56, 86), (28, 86)], -.08)],
         rgb("566079"))
-    ctx.save()
-    polygon(outline, 6)(ctx)
-    ctx.clip()
-    snow = [(40, 0), (54, 20), (66, 12), (71, 46), (64, 36), (58, 46), (51, 34), (44, 48), (37, 36), (29, 50), (26, 38),
-            (18, 46), (22, 20)]
-    fill(ctx, polygon(snow, 2), rgb("f4f8ff"))
-    fill(ctx, polygon([(54, 20), (66, 12), (71, 46), (64, 36), (58, 46), (51, 34)], 2), rgb("b9c6de"))
-    stroke(ctx, polygon(snow, 2), rgb("1d2436"), 1.4)
-    ctx.restore()
+    snow = [(42, -2), (55, 16), (66, 11), (74, 48), (66, 38), (60, 51), (52, 37), (45, 56), (38, 41), (31, 54), (26, 43),
+            (15, 53), (25, 18)]
+
+    def cap():
+        fill(ctx, polygon(snow, 2), rgb("f4f8ff"))
+        fill(ctx, polygon(snow[1:7], 2), rgb("b9c6de"))
+        stroke(ctx, polygon(snow, 2), rgb("1d2436"), 1.4)
+
+    within(ctx, polygon(outline, 6), cap)
     stroke(ctx, polygon(outline, 6), rgb("0c0f1a"), 3.4)
 
 
@@ -98,24 +108,18 @@ def bomb(ctx):
 
 
 def bauble(ctx):
-    """Dark glass with a pale belt and a star on it."""
-    glass = rgb("a31c78")
+    """Pale glass with two dark segments."""
+    glass, pale, edge = rgb("a31c78"), rgb("ffe2f2"), rgb("3a0829")
     stroke(ctx, ellipse(45, 10.5, 5, 5), rgb("241a04"), 6.5)
     stroke(ctx, ellipse(45, 10.5, 5, 5), GOLD, 2.8)
     sloped(ctx, box(33, 13, 24, 13, 3), lighter(GOLD, .5), darker(GOLD, .4), edge=rgb("2b1c02"), diagonal=False)
     ball = circle(45, 54, 33)
-    glossy(ctx, ball, glass, shine=.8)
-    ctx.save()
-    ball(ctx)
-    ctx.clip()
-    belt = curve(8, 40, 30, 48, 60, 48, 82, 40, 82, 50, 82, 60, 82, 70, 60, 80, 30, 80, 8, 70)
-    belt(ctx)
-    ctx.clip()
-    glossy(ctx, ball, rgb("ffe2f2"), 0)
-    stroke(ctx, belt, rgb("4a0b36"), 4.8)
-    ctx.restore()
-    stroke(ctx, ball, darker(glass, .84), 3)
-    glossy(ctx, star(45, 61, 5, 14.5, 6.5, 1), glass, 2, .2, rgb("4a0b36"))
+    glossy(ctx, ball, pale, 0)
+    for half, colour in ((24, glass), (10, pale)):
+        segment = ellipse(45, 54, half, 33)
+        within(ctx, segment, lambda: glossy(ctx, ball, colour, 0, .8))
+        stroke(ctx, segment, edge, 2.2)
+    stroke(ctx, ball, edge, 3)
 
 
 def diamond(ctx):
@@ -138,9 +142,9 @@ def calculator(ctx, body, display, key, sign, is_plus):
     sloped(ctx, box(12, 4, 66, 82, 9), lighter(body, .3), darker(body, .35))
     stroke(ctx, line((20, 8), (70, 8)), (1, 1, 1), 2, .4)
     sloped(ctx, box(19, 12, 52, 38, 4), lighter(display, .3), darker(display, .25), 2.6, rgb("0a0a0a"))
-    fill(ctx, box(30, 27, 30, 8), sign)
+    fill(ctx, box(27.5, 26, 35, 10), sign)
     if is_plus:
-        fill(ctx, box(41, 16, 8, 30), sign)
+        fill(ctx, box(40, 15.5, 10, 31), sign)
     for row in range(2):
         for col in range(4):
             sloped(ctx, box(19 + col * 13.6, 57 + row * 13, 11, 9.5, 2.5), lighter(key, .4), darker(key, .2), 1.4)
@@ -151,7 +155,7 @@ def calculator_plus(ctx):
 
 
 def calculator_minus(ctx):
-    calculator(ctx, rgb("3b3f4c"), rgb("ff8464"), rgb("c9ced8"), rgb("3a0808"), False)
+    calculator(ctx, rgb("2c2f3a"), rgb("ffa78c"), rgb("dfe3ea"), rgb("3a0808"), False)
 
 
 def shifter(ctx):
@@ -164,23 +168,19 @@ def shifter(ctx):
 
 def bowling_ball(ctx):
     """Two-toned: the holes lie in the pale part."""
-    shell = rgb("3c2a92")
-    ball = circle(45, 45, 40.5)
-    glossy(ctx, ball, shell, shine=.75, edge=rgb("0a0620"))
-    ctx.save()
-    ball(ctx)
-    ctx.clip()
-    pale = curve(24, -2, 30, 18, 22, 30, 34, 44, 46, 58, 62, 50, 92, 62, 92, 30, 80, -4, 24, -2)
-    stroke(ctx, curve(4, 58, 22, 72, 44, 82, 72, 76), rgb("8e7bff"), 2.4, .6)
-    pale(ctx)
-    ctx.clip()
-    glossy(ctx, ball, rgb("cfc4ff"), 0, .75)
-    stroke(ctx, pale, rgb("1d1260"), 4)
-    ctx.restore()
-    stroke(ctx, ball, rgb("0a0620"), 3)
-    for x, y in ((50, 22), (68, 30), (53, 42)):
+    edge, ball = rgb("0a0620"), circle(45, 45, 40.5)
+    glossy(ctx, ball, rgb("3c2a92"), 0, .75)
+    pale = curve(-4, 64, 20, 44, 44, 62, 60, 40, 72, 24, 66, 10, 70, -4, 40, -10, -10, -10, -4, 64)
+
+    def upper_part():
+        glossy(ctx, ball, rgb("cfc4ff"), 0, .75)
+        stroke(ctx, pale, rgb("1d1260"), 4)
+
+    within(ctx, ball, lambda: within(ctx, pale, upper_part))
+    stroke(ctx, ball, edge, 3)
+    for x, y in ((36, 20), (52, 26), (36, 40)):
         fill(ctx, ellipse(x, y, 7.6, 7.2), (1, 1, 1), .8)
-        fill(ctx, ellipse(x - .8, y - .8, 6.8, 6.4), rgb("07040f"))
+        fill(ctx, ellipse(x - .8, y - .8, 6.8, 6.4), edge)
 
 
 def money(ctx):
@@ -189,11 +189,11 @@ def money(ctx):
         return polygon([(x + r * math.cos(math.radians(15 + 30 * i)), y + r * math.sin(math.radians(15 + 30 * i)))
                         for i in range(12)], 3)
     glossy(ctx, coin(47.5, 48, 38.5), darker(GOLD, .45), edge=rgb("2c1a02"))
-    glossy(ctx, coin(43, 43, 38.5), GOLD, shine=.5, edge=rgb("2c1a02"))
-    sloped(ctx, coin(43, 43, 29), rgb("4a2c04"), rgb("8a5a12"), 2.4, rgb("2c1a02"))
+    glossy(ctx, coin(43, 43, 38.5), rgb("ffd866"), shine=.5, edge=rgb("2c1a02"))
+    sloped(ctx, coin(43, 43, 28.5), rgb("2e1a02"), rgb("5c390a"), 2.4, rgb("2c1a02"))
     for y in (19.5, 60.5):
         stroke(ctx, line((44, y), (44, y + 6)), rgb("ffdc7a"), 6.4)
-    glyphs.letter(ctx, "G", 32.5, 27.5, 5.2, 8.6, rgb("ffcf4a"), 0)
+    glyphs.letter(ctx, "G", 32.5, 27.5, 5.2, 9.4, rgb("ffdc70"), 0)
 
 
 def music(ctx):
