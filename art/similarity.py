@@ -20,6 +20,7 @@ A pair's distance is the least of the four ways and the two grounds. It must not
 import argparse
 import csv
 import sys
+import textwrap
 from itertools import combinations
 from pathlib import Path
 
@@ -110,7 +111,8 @@ def contact_sheet(icons):
     for way in (None, *WAYS):
         lights = [on_ground(icon, 30)[0] for icon in icons.values()]
         rows.append(np.hstack([light if way is None else seen(light, way) for light in lights]))
-    return Image.fromarray((displayed(np.vstack(rows)) * 255).round().astype(np.uint8), "RGB").quantize(256)
+    pixels = (displayed(np.vstack(rows)) * 255).round().astype(np.uint8)
+    return Image.fromarray(pixels, "RGB").quantize(256, method=Image.Quantize.LIBIMAGEQUANT)
 
 
 def write(path, icons, table, least):
@@ -119,17 +121,17 @@ def write(path, icons, table, least):
         rows.writerow(("piece", "other", *WAYS, "least"))
         for pair, row in table.items():
             rows.writerow((*pair, *(f"{d:.2f}" for d in (*row.values(), min(row.values())))))
-    contact_sheet(icons).save(path.with_suffix(".png"))
+    contact_sheet(icons).save(path.with_suffix(".png"), optimize=True)
     lines = [
         "# Pieces told apart without colour", "",
         f"![The pieces in colour, grey, protanopia, deuteranopia and tritanopia]({path.stem}.png)", "",
-        f"All {len(icons)} pictures of the pieces at half their size; from the top in colour, in grey, and in simulated",
-        "protanopia, deuteranopia and tritanopia. In the order of the file names:", "",
-        f"{', '.join(f'`{name}`' for name in icons)}.", "",
-        "The distance of two pieces is the mean difference in CIELAB of their slightly blurred pictures, over what",
-        f"either of them covers, where a difference above {CLEAR} counts as {CLEAR}, and with one moved by up to {REACH} pixels to where",
-        "it is least. Each pair is measured in grey and in the three simulations, on a dark and on a lighter ground; the",
-        "least of these holds. `art/similarity.py` tells more.", "",
+        f"All {len(icons)} pictures of the pieces (a Calculator has two) at half their size; from the top in",
+        "colour, in grey, and in simulated protanopia, deuteranopia and tritanopia. From the left:", "",
+        *textwrap.wrap(", ".join(f"`{name}`" for name in icons) + ".", 100), "",
+        "The distance of two pieces is the mean difference in CIELAB of their slightly blurred pictures, over",
+        f"what either of them covers, where a difference above {CLEAR} counts as {CLEAR}, and with one moved by up to",
+        f"{REACH} pixels to where it is least. Each pair is measured in grey and in the three simulations, on a",
+        "dark and on a lighter ground; the least of these holds. `art/similarity.py` tells more.", "",
         f"Of all {len(table)} pairs:", "",
         f"| | as drawn at {BEFORE} | now |", "|---|---|---|",
         f"| closest pair | {LEAST_BEFORE} | {least[0]:.2f} |",

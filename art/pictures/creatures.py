@@ -9,8 +9,8 @@ INK = (.07, .03, .08)
 
 def glonk_round(ctx):
     horn = rgb("ffc58a")
-    for x in (28, 62):
-        glossy(ctx, ellipse(x, 81, 14, 6.5), horn, edge=rgb("3a0d0a"))
+    for x in (26, 64):
+        glossy(ctx, ellipse(x, 80.5, 16, 6.5), horn, edge=rgb("3a0d0a"))
     for x, tip in ((37, 26), (53, 64)):
         tube(ctx, line((x, 16), (tip, 9)), RED, 3.4, 2)
         glossy(ctx, circle(tip, 9, 6.2), horn, 2.4, edge=rgb("3a0d0a"))
@@ -31,10 +31,10 @@ def glonk_round(ctx):
 def glonk_square(ctx):
     for x in (12, 66):
         glossy(ctx, box(x, 4, 12, 22, 4), darker(BLUE, .25))
-    glossy(ctx, box(5, 13, 80, 72, 13), rgb("215abe"))
-    fill(ctx, ellipse(45, 39, 29, 20.5), darker(BLUE, .72))
-    eye(ctx, 45, 39, 18.5, (.1, .12), rgb("1f9a9a"))
-    stroke(ctx, line((20, 18), (45, 23), (70, 18)), INK, 5)
+    glossy(ctx, box(5, 13, 80, 72, 13), rgb("1f56b8"))
+    fill(ctx, ellipse(45, 39, 29.5, 21.2), darker(BLUE, .72))
+    eye(ctx, 45, 39, 19.2, (.1, .12), rgb("1f9a9a"))
+    stroke(ctx, line((20, 17.5), (45, 22.5), (70, 17.5)), INK, 6.4)
     mouth = box(10.5, 62, 69, 18, 5)
     fill(ctx, mouth, (.05, .05, .22))
     for x in (13.5, 30, 46.5, 63):
@@ -43,7 +43,7 @@ def glonk_square(ctx):
 
 
 def glonk_triangle(ctx):
-    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), rgb("a0ee6a"), edge=rgb("06280f"))
+    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), rgb("a4f06e"), edge=rgb("06280f"))
     eye(ctx, 45, 27, 7.5, (0, .3))
     eye(ctx, 31, 48, 8.5)
     eye(ctx, 59, 48, 8.5)
