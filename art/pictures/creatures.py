@@ -31,7 +31,7 @@ def glonk_round(ctx):
 def glonk_square(ctx):
     for x in (12, 66):
         glossy(ctx, box(x, 4, 12, 22, 4), darker(BLUE, .25))
-    glossy(ctx, box(5, 13, 80, 72, 13), rgb("1f56b8"))
+    glossy(ctx, box(5, 13, 80, 72, 13), rgb("1f56b8"), shine=.3)
     fill(ctx, ellipse(45, 39, 29.5, 21.2), darker(BLUE, .72))
     eye(ctx, 45, 39, 19.2, (.1, .12), rgb("1f9a9a"))
     stroke(ctx, line((20, 17.5), (45, 22.5), (70, 17.5)), INK, 6.4)
