@@ -8,52 +8,64 @@ INK = (.07, .03, .08)
 
 
 def glonk_round(ctx):
-    for x in (30, 60):
-        glossy(ctx, ellipse(x, 81, 12, 6), darker(RED, .25))
-    for x, tip in ((37, 29), (53, 61)):
-        tube(ctx, line((x, 16), (tip, 8)), RED, 3, 2)
-        glossy(ctx, circle(tip, 8, 4.5), rgb("ffb36b"), 2)
-    glossy(ctx, circle(45, 48, 36), RED)
-    eye(ctx, 33, 42, 9.5)
-    eye(ctx, 57, 42, 9.5)
-    mouth = curve(28, 58, 34, 78, 56, 78, 62, 58, 54, 63, 36, 63, 28, 58)
-    fill(ctx, mouth, (.28, .02, .06))
-    fill(ctx, ellipse(45, 69.5, 7.5, 3.2), rgb("ff8f86"))
-    stroke(ctx, mouth, INK, 2.4)
+    horn = rgb("ffc58a")
+    for x in (26, 64):
+        glossy(ctx, ellipse(x, 80.5, 16, 6.5), horn, edge=rgb("3a0d0a"))
+    for x, tip in ((37, 26), (53, 64)):
+        tube(ctx, line((x, 16), (tip, 9)), RED, 3.4, 2)
+        glossy(ctx, circle(tip, 9, 6.2), horn, 2.4, edge=rgb("3a0d0a"))
+    glossy(ctx, circle(45, 48, 35.5), rgb("c62020"))
+    eye(ctx, 32, 39, 11)
+    eye(ctx, 58, 39, 11)
+    mouth = curve(18, 55, 22, 86, 68, 86, 72, 55, 58, 60, 32, 60, 18, 55)
+    fill(ctx, mouth, (.2, .01, .05))
+    ctx.save()
+    mouth(ctx)
+    ctx.clip()
+    fill(ctx, ellipse(45, 77, 15, 8.5), rgb("ff9c92"))
+    fill(ctx, curve(22, 53, 30, 66, 60, 66, 68, 53, 58, 60, 32, 60, 22, 53), (.97, .97, .95))
+    ctx.restore()
+    stroke(ctx, mouth, INK, 2.6)
 
 
 def glonk_square(ctx):
     for x in (12, 66):
         glossy(ctx, box(x, 4, 12, 22, 4), darker(BLUE, .25))
-    glossy(ctx, box(5, 13, 80, 72, 13), BLUE)
-    fill(ctx, ellipse(45, 40, 23, 18), darker(BLUE, .6))
-    eye(ctx, 45, 40, 16.5, (.1, .12), rgb("1f9a9a"))
-    stroke(ctx, line((26, 22), (45, 25), (64, 22)), INK, 4)
-    mouth = box(21, 62, 48, 15, 5)
+    glossy(ctx, box(5, 13, 80, 72, 13), rgb("1f56b8"), shine=.3)
+    fill(ctx, ellipse(45, 39, 29.5, 21.2), darker(BLUE, .72))
+    eye(ctx, 45, 39, 19.2, (.1, .12), rgb("1f9a9a"))
+    stroke(ctx, line((20, 17.5), (45, 22.5), (70, 17.5)), INK, 6.4)
+    mouth = box(10.5, 62, 69, 18, 5)
     fill(ctx, mouth, (.05, .05, .22))
-    for x in (25, 36, 47, 58):
-        fill(ctx, box(x, 63, 8, 7, 2), (.96, .96, .93))
+    for x in (13.5, 30, 46.5, 63):
+        fill(ctx, box(x, 63.5, 14, 11, 2.5), (.96, .96, .93))
     stroke(ctx, mouth, INK, 2.4)
 
 
 def glonk_triangle(ctx):
-    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), GREEN)
-    fill(ctx, polygon([(45, 38), (72, 80), (18, 80)], 14), lighter(GREEN, .45), .45)
-    eye(ctx, 45, 29, 6.5, (0, .3))
-    eye(ctx, 32, 48, 7.5)
-    eye(ctx, 58, 48, 7.5)
-    stroke(ctx, curve(28, 66, 36, 74, 54, 74, 62, 66), INK, 3.6)
-    for x in (36, 50):
-        fill(ctx, polygon([(x, 69.5), (x + 7, 69.5), (x + 3.5, 78)]), (.97, .97, .93))
+    glossy(ctx, polygon([(45, -6), (94, 86), (-4, 86)], 19), rgb("a4f06e"), edge=rgb("06280f"))
+    eye(ctx, 45, 27, 7.5, (0, .3))
+    eye(ctx, 31, 48, 8.5)
+    eye(ctx, 59, 48, 8.5)
+    mouth = curve(14, 62, 30, 68, 60, 68, 76, 62, 82, 89, 8, 89, 14, 62)
+    fill(ctx, mouth, rgb("082d18"))
+    ctx.save()
+    mouth(ctx)
+    ctx.clip()
+    fill(ctx, ellipse(45, 83, 16, 7), rgb("e2566a"))
+    for x in (25, 53):
+        fill(ctx, polygon([(x, 62), (x + 12, 62), (x + 6, 80)]), (.97, .97, .93))
+    ctx.restore()
+    stroke(ctx, mouth, INK, 2.6)
 
 
 def glonk_star(ctx):
-    glossy(ctx, star(45, 48, 5, 45, 25, 7), YELLOW, edge=rgb("402604"))
-    eye(ctx, 35, 43, 7, (0, -.1))
-    eye(ctx, 55, 43, 7, (0, -.1))
-    fill(ctx, ellipse(45, 60, 6.5, 7.5), (.32, .1, .02))
-    fill(ctx, ellipse(45, 63.5, 4.2, 3), rgb("ff7a5a"))
-    for x in (26, 64):
+    glossy(ctx, star(45, 48, 5, 45, 23.8, 7), rgb("ffd040"), edge=rgb("402604"))
+    eye(ctx, 36, 39, 8, (0, -.1))
+    eye(ctx, 54, 39, 8, (0, -.1))
+    fill(ctx, ellipse(45, 61, 10.5, 12.5), (.32, .1, .02))
+    fill(ctx, ellipse(45, 67, 6.4, 4.6), rgb("ff7a5a"))
+    for x in (25.5, 64.5):
         fill(ctx, ellipse(x, 52, 4.5, 2.8), rgb("ff7f2a"), .7)
 
 

@@ -8,48 +8,71 @@ from .shapes import (blob, box, circle, curve, darker, ellipse, fill, glossy, li
 STEEL, GOLD = rgb("8d99a8"), rgb("f2b632")
 
 
+def within(ctx, path, draw):
+    """Draws only what lies inside a path."""
+    ctx.save()
+    path(ctx)
+    ctx.clip()
+    draw()
+    ctx.restore()
+
+
 def facets(ctx, outline, faces, colour):
     """A chipped stone: flat faces, each with its own amount of light."""
     sloped(ctx, polygon(outline, 6), lighter(colour, .15), darker(colour, .5), 0)
-    ctx.save()
-    polygon(outline, 6)(ctx)
-    ctx.clip()
-    for points, light in faces:
-        shade = lighter(colour, light) if light > 0 else darker(colour, -light)
-        fill(ctx, polygon(points), shade)
-        stroke(ctx, polygon(points), darker(colour, .55), 1)
-    ctx.restore()
+
+    def chipped():
+        for points, light in faces:
+            shade = lighter(colour, light) if light > 0 else darker(colour, -light)
+            fill(ctx, polygon(points), shade)
+            stroke(ctx, polygon(points), darker(colour, .55), 1)
+
+    within(ctx, polygon(outline, 6), chipped)
     stroke(ctx, polygon(outline, 6), darker(colour, .86), 3.4)
 
 
 def rock_round(ctx):
-    outline = [(24, 10), (58, 5), (82, 27), (86, 56), (66, 84), (28, 85), (5, 62), (7, 30)]
+    """A squat boulder."""
+    outline = [(20, 27), (56, 20), (82, 34), (87, 60), (70, 85), (24, 86), (3, 68), (5, 46)]
     facets(ctx, outline, [
-        ([(24, 10), (58, 5), (50, 30), (26, 36)], .5), ([(58, 5), (82, 27), (66, 46), (50, 30)], .22),
-        ([(24, 10), (26, 36), (16, 56), (5, 62), (7, 30)], .3), ([(26, 36), (50, 30), (66, 46), (48, 64), (16, 56)], .1),
-        ([(82, 27), (86, 56), (66, 84), (48, 64), (66, 46)], -.35), ([(16, 56), (48, 64), (66, 84), (28, 85), (5, 62)], -.22)],
-        rgb("8a8f98"))
-    stroke(ctx, line((36, 44), (44, 50), (41, 58)), (.1, .1, .12), 2)
+        ([(20, 27), (56, 20), (50, 40), (24, 46)], .85), ([(56, 20), (82, 34), (66, 52), (50, 40)], .3),
+        ([(20, 27), (24, 46), (15, 63), (3, 68), (5, 46)], .55),
+        ([(24, 46), (50, 40), (66, 52), (48, 69), (15, 63)], -.3),
+        ([(82, 34), (87, 60), (70, 85), (48, 69), (66, 52)], -.68),
+        ([(15, 63), (48, 69), (70, 85), (24, 86), (3, 68)], -.1)], rgb("8a8f98"))
+    stroke(ctx, line((37, 50), (45, 55), (41, 62)), (.1, .1, .12), 2)
 
 
 def rock_pile(ctx):
-    """Three brown stones, one on top of two."""
+    """Three stones, a brown one on top of a pale and a dark one."""
     tan = rgb("a8794e")
-    for x, y, w, h, tone in ((5, 48, 42, 37, tan), (42, 52, 43, 33, darker(tan, .2)), (22, 20, 46, 36, lighter(tan, .12))):
+    for x, y, w, h, tone in ((5, 48, 42, 37, lighter(tan, .66)), (42, 52, 43, 33, darker(tan, .5)),
+                             (22, 20, 46, 36, darker(tan, .05))):
         path = blob([(x + w * u, y + h * v) for u, v in
                      ((.2, .08), (.62, 0), (.95, .3), (1, .72), (.7, 1), (.25, .98), (0, .66), (.03, .3))])
-        glossy(ctx, path, tone, 3.2, .35)
+        glossy(ctx, path, tone, 3.2, .35, rgb("1c120c"))
         for u, v in ((.55, .55), (.3, .72), (.74, .66)):
             fill(ctx, ellipse(x + w * u, y + h * v, 2.6, 1.8), darker(tone, .5))
 
 
 def rock_peak(ctx):
-    outline = [(40, 3), (54, 22), (64, 16), (72, 48), (87, 60), (82, 86), (8, 86), (4, 64), (18, 52), (24, 24)]
+    """A summit under snow, with a lit and a dark flank."""
+    outline = [(42, 2), (55, 18), (64, 15), (71, 46), (81, 60), (80, 86), (12, 86), (9, 64), (20, 50), (27, 22)]
     facets(ctx, outline, [
-        ([(40, 3), (54, 22), (46, 60), (34, 40)], .18), ([(40, 3), (34, 40), (18, 52), (24, 24)], .42),
-        ([(54, 22), (64, 16), (72, 48), (46, 60)], -.3), ([(72, 48), (87, 60), (82, 86), (56, 86), (46, 60)], -.5),
-        ([(18, 52), (34, 40), (46, 60), (26, 86), (8, 86), (4, 64)], .05), ([(46, 60), (56, 86), (26, 86)], -.2)],
-        rgb("6a738c"))
+        ([(42, 2), (55, 18), (47, 60), (35, 40)], .02), ([(42, 2), (35, 40), (20, 50), (27, 22)], .25),
+        ([(55, 18), (64, 15), (71, 46), (47, 60)], -.4), ([(71, 46), (81, 60), (80, 86), (56, 86), (47, 60)], -.6),
+        ([(20, 50), (35, 40), (47, 60), (28, 86), (12, 86), (9, 64)], .48), ([(47, 60), (56, 86), (28, 86)], -.08)],
+        rgb("566079"))
+    snow = [(42, -2), (55, 16), (66, 11), (74, 48), (66, 38), (60, 51), (52, 37), (45, 56), (38, 41), (31, 54),
+            (26, 43), (15, 53), (25, 18)]
+
+    def cap():
+        fill(ctx, polygon(snow, 2), rgb("f4f8ff"))
+        fill(ctx, polygon(snow[1:7], 2), rgb("b9c6de"))
+        stroke(ctx, polygon(snow, 2), rgb("1d2436"), 1.4)
+
+    within(ctx, polygon(outline, 6), cap)
+    stroke(ctx, polygon(outline, 6), rgb("0c0f1a"), 3.4)
 
 
 def slammer(ctx):
@@ -73,33 +96,31 @@ def slammer(ctx):
 
 def bomb(ctx):
     tube(ctx, curve(58, 24, 62, 10, 72, 6, 76, 15), rgb("c9a26a"), 4, 2.4)
-    stroke(ctx, star(77, 17, 8, 9.5, 5), rgb("4a1600"), 5)
-    fill(ctx, star(77, 17, 8, 9.5, 5), rgb("ff9a1f"))
-    fill(ctx, circle(77, 17, 4), rgb("fff2b0"))
+    stroke(ctx, star(75, 17, 8, 12.2, 6.4), rgb("4a1600"), 5)
+    fill(ctx, star(75, 17, 8, 12.2, 6.4), rgb("ff9a1f"))
+    fill(ctx, circle(75, 17, 5.2), rgb("fff2b0"))
     glossy(ctx, circle(40, 52, 33.5), rgb("41444f"), edge=rgb("08080b"), shine=.75)
     ctx.save()
     ctx.translate(58, 27)
     ctx.rotate(math.radians(38))
     sloped(ctx, box(-11, -6, 22, 12, 3), lighter(STEEL, .5), darker(STEEL, .4), diagonal=False)
     ctx.restore()
-    glossy(ctx, star(40, 56, 3, 15, 8, 2, 90), rgb("e8452c"), 2, .3)
+    glossy(ctx, star(40, 57, 3, 18.5, 9.6, 2, 90), rgb("ff5a3c"), 2, .3)
 
 
 def bauble(ctx):
-    glass = rgb("c2318f")
+    """Pale glass with two dark segments."""
+    glass, pale, edge = rgb("a31c78"), rgb("ffe2f2"), rgb("3a0829")
     stroke(ctx, ellipse(45, 10.5, 5, 5), rgb("241a04"), 6.5)
     stroke(ctx, ellipse(45, 10.5, 5, 5), GOLD, 2.8)
     sloped(ctx, box(33, 13, 24, 13, 3), lighter(GOLD, .5), darker(GOLD, .4), edge=rgb("2b1c02"), diagonal=False)
     ball = circle(45, 54, 33)
-    glossy(ctx, ball, glass, shine=.8)
-    ctx.save()
-    ball(ctx)
-    ctx.clip()
-    for y in (38, 72):
-        stroke(ctx, curve(8, y, 30, y + 9, 60, y + 9, 82, y), rgb("ffd9ec"), 3, .75)
-    ctx.restore()
-    stroke(ctx, ball, darker(glass, .84), 3)
-    glossy(ctx, star(45, 59, 5, 14.5, 6.5, 1), rgb("ffe9a8"), 2, .2, rgb("4a0b36"))
+    glossy(ctx, ball, pale, 0)
+    for half, colour in ((24, glass), (10, pale)):
+        segment = ellipse(45, 54, half, 33)
+        within(ctx, segment, lambda: glossy(ctx, ball, colour, 0, .8))
+        stroke(ctx, segment, edge, 2.2)
+    stroke(ctx, ball, edge, 3)
 
 
 def diamond(ctx):
@@ -118,61 +139,62 @@ def diamond(ctx):
     fill(ctx, star(25, 27, 4, 9, 2), (.98, .98, .98))
 
 
-def calculator(ctx, body, display, key, is_plus):
-    sloped(ctx, box(12, 4, 66, 82, 9), lighter(body, .3), darker(body, .35))
-    stroke(ctx, line((20, 8), (70, 8)), (1, 1, 1), 2, .4)
+def calculator(ctx, body, display, key, sign, is_plus):
+    sloped(ctx, box(14, 4, 62, 82, 9), lighter(body, .3), darker(body, .35))
+    stroke(ctx, line((22, 8), (68, 8)), (1, 1, 1), 2, .4)
     sloped(ctx, box(19, 12, 52, 38, 4), lighter(display, .3), darker(display, .25), 2.6, rgb("0a0a0a"))
-    sign = rgb("07140a") if is_plus else rgb("fff4ee")
-    fill(ctx, box(31, 27.5, 28, 7), sign)
+    fill(ctx, box(27.5, 26, 35, 10), sign)
     if is_plus:
-        fill(ctx, box(41.5, 17, 7, 28), sign)
+        fill(ctx, box(40, 15.5, 10, 31), sign)
     for row in range(2):
         for col in range(4):
             sloped(ctx, box(19 + col * 13.6, 57 + row * 13, 11, 9.5, 2.5), lighter(key, .4), darker(key, .2), 1.4)
 
 
 def calculator_plus(ctx):
-    calculator(ctx, rgb("d9dde2"), rgb("6fdc63"), rgb("66707e"), True)
+    calculator(ctx, rgb("d9dde2"), rgb("16402a"), rgb("66707e"), rgb("8dff7a"), True)
 
 
 def calculator_minus(ctx):
-    calculator(ctx, rgb("3b3f4c"), rgb("d22727"), rgb("c9ced8"), False)
+    calculator(ctx, rgb("2c2f3a"), rgb("ffa78c"), rgb("dfe3ea"), rgb("3a0808"), False)
 
 
 def shifter(ctx):
-    teal = rgb("0fa3a0")
+    teal = rgb("0a7580")
     glossy(ctx, box(3, 20, 84, 50, 25), teal, shine=.4)
-    arrow = polygon([(9, 45), (29, 27), (29, 38), (61, 38), (61, 27), (81, 45),
-                     (61, 63), (61, 52), (29, 52), (29, 63)], 1.5)
+    arrow = polygon([(8, 45), (29, 25), (29, 37), (61, 37), (61, 25), (82, 45),
+                     (61, 65), (61, 53), (29, 53), (29, 65)], 1.5)
     sloped(ctx, arrow, rgb("fffbe8"), rgb("ffd98a"), 2.4, rgb("033635"))
 
 
 def bowling_ball(ctx):
-    shell = rgb("3c2a92")
-    ball = circle(45, 45, 40.5)
-    glossy(ctx, ball, shell, shine=.75, edge=rgb("0a0620"))
-    ctx.save()
-    ball(ctx)
-    ctx.clip()
-    for dx, dy in ((0, 22), (10, 40), (26, 54)):
-        stroke(ctx, curve(-4, 52 + dy * .6, 24, 40 + dy, 40, 70 + dy * .3, 92, 34 + dy), rgb("8e7bff"), 2.4, .4)
-    ctx.restore()
-    stroke(ctx, ball, rgb("0a0620"), 3)
-    for x, y in ((50, 27), (66, 34), (54, 46)):
-        fill(ctx, ellipse(x, y, 6.6, 6.2), lighter(shell, .45))
-        fill(ctx, ellipse(x - .8, y - .8, 5.8, 5.4), rgb("07040f"))
+    """Two-toned: the holes lie in the pale part."""
+    edge, ball = rgb("0a0620"), circle(45, 45, 40.5)
+    glossy(ctx, ball, rgb("3c2a92"), 0, .75)
+    pale = curve(-4, 64, 20, 44, 44, 62, 60, 40, 72, 24, 66, 10, 70, -4, 40, -10, -10, -10, -4, 64)
+
+    def upper_part():
+        glossy(ctx, ball, rgb("cfc4ff"), 0, .75)
+        stroke(ctx, pale, rgb("1d1260"), 4)
+
+    within(ctx, ball, lambda: within(ctx, pale, upper_part))
+    stroke(ctx, ball, edge, 3)
+    for x, y in ((36, 20), (52, 26), (36, 40)):
+        fill(ctx, ellipse(x, y, 7.6, 7.2), (1, 1, 1), .8)
+        fill(ctx, ellipse(x - .8, y - .8, 6.8, 6.4), edge)
 
 
 def money(ctx):
-    """A twelve-sided coin with a bar through its letter."""
+    """A twelve-sided coin, dark within its rim, with a bar through its letter."""
     def coin(x, y, r):
         return polygon([(x + r * math.cos(math.radians(15 + 30 * i)), y + r * math.sin(math.radians(15 + 30 * i)))
                         for i in range(12)], 3)
     glossy(ctx, coin(47.5, 48, 38.5), darker(GOLD, .45), edge=rgb("2c1a02"))
-    glossy(ctx, coin(43, 43, 38.5), GOLD, shine=.5, edge=rgb("2c1a02"))
-    stroke(ctx, coin(43, 43, 31), darker(GOLD, .5), 2.4)
-    stroke(ctx, line((44, 17), (44, 69)), rgb("5c3a04"), 5)
-    glyphs.letter(ctx, "G", 31.5, 27, 5.4, 7, rgb("7a4c06"), 0)
+    glossy(ctx, coin(43, 43, 38.5), rgb("ffd866"), shine=.5, edge=rgb("2c1a02"))
+    sloped(ctx, coin(43, 43, 28.5), rgb("2e1a02"), rgb("5c390a"), 2.4, rgb("2c1a02"))
+    for y in (19.5, 60.5):
+        stroke(ctx, line((44, y), (44, y + 6)), rgb("ffdc7a"), 6.4)
+    glyphs.letter(ctx, "G", 32.5, 27.5, 5.2, 9.4, rgb("ffdc70"), 0)
 
 
 def music(ctx):
@@ -198,9 +220,20 @@ def detonator(ctx):
 
 
 def b_type(ctx):
-    """Hexagonal tile with a B."""
-    glossy(ctx, polygon([(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)], 6), rgb("17a06a"), 4)
-    glyphs.letter(ctx, "B", 33, 24, 7, 11, rgb("fff0b8"), 3)
+    """Hexagonal tile with a B cut into it."""
+    tile = [(45, 3), (83, 24), (83, 66), (45, 87), (7, 66), (7, 24)]
+    glossy(ctx, polygon(tile, 6), rgb("17a06a"), 4)
+    face = polygon([(45 + (x - 45) * .8, 45 + (y - 45) * .8) for x, y in tile], 5)
+    sloped(ctx, face, rgb("f4fff0"), rgb("9fe6bd"), 2, rgb("06351f"))
+    for shift, colour in ((1.4, rgb("ffffff")), (0, rgb("06402a"))):
+        ctx.save()
+        ctx.translate(33.5 + shift, 26 + shift)
+        ctx.scale(6.3, 6.3)
+        glyphs.trace(ctx, "B")
+        ctx.restore()
+        ctx.set_source_rgb(*colour)
+        ctx.set_line_width(9)
+        ctx.stroke()
 
 
 # How far down, half the width there. A pin stands on the next one's head.
