@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 #include <clocale>
 #include <map>
@@ -91,6 +92,11 @@ void startToolkit() {
 
 std::filesystem::path folderOfProgram() {
   return QDir(QCoreApplication::applicationDirPath()).filesystemAbsolutePath();
+}
+
+std::filesystem::path folderOfUsersData() {
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return QDir(data + "/glonks").filesystemAbsolutePath();
 }
 
 void showForm(Form& form, Handler load) {

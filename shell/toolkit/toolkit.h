@@ -11,9 +11,12 @@
 namespace glonks {
 
 // Makes the toolkit ready; first call of the program. Without a display, ends the program with a
-// sentence on stderr and exit status 1. The program's folder is that of the program file.
+// sentence on stderr and exit status 1. The program's folder is that of the program file, links to it
+// followed; that of the user's data is where the system keeps what this program stores for them
+// ($XDG_DATA_HOME/glonks or ~/.local/share/glonks), and need not be there.
 void startToolkit();
 std::filesystem::path folderOfProgram();
+std::filesystem::path folderOfUsersData();
 
 // Shows a form, active and in front. For one that isn't open `load` runs first, and it comes up in
 // the centre of the screen; after hideForm it comes back to its old place as it was. The form and
