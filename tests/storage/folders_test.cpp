@@ -76,7 +76,7 @@ TEST_F(Folders, OnlyAPortableFolderThatCanBeWrittenHoldsWhatThePlayerOwns) {
 
 TEST_F(Folders, PlayersOwnFolderBeginsWithTheFirstContentsAndTakesAllThatIsWritten) {
   setFolders(folder, users, never);
-  fs::create_directories(users / "init.new/left by a start that broke off");
+  fs::copy(gameFolder / "first", users / "init.new");  // a start that broke off
   const auto before = filesIn(folder);
   makeFirstFiles();
   for (const char* name : {"6095", "6702", "6537"}) {
