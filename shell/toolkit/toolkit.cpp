@@ -85,6 +85,7 @@ bool ask(const std::string& text, QDialogButtonBox::StandardButtons buttons) {
 void startToolkit() {
   makeApplication(programName);
   std::setlocale(LC_NUMERIC, "C");
+  QApplication::setDesktopFileName("glonks");
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(QIcon(":/forms/icon.png"));
   setAfterHandler(refreshVisibleForms);
@@ -95,7 +96,8 @@ std::filesystem::path folderOfProgram() {
 }
 
 std::filesystem::path folderOfUsersData() {
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (QDir::isRelativePath(data)) data = QDir::homePath() + "/.local/share";  // as it is to be read
   return QDir(data + "/glonks").filesystemAbsolutePath();
 }
 

@@ -11,10 +11,12 @@
 namespace glonks {
 
 // Makes the toolkit ready; first call of the program. Without a display, ends the program with a
-// sentence on stderr and exit status 1. The program's folder is that of the program file, links to it
-// followed; that of the user's data is where the system keeps what this program stores for them
-// ($XDG_DATA_HOME/glonks or ~/.local/share/glonks), and need not be there.
+// sentence on stderr and exit status 1.
 void startToolkit();
+
+// The folder of the program file itself, also if it was started by a link to it; and the one that
+// the system has for what this program keeps for its user, $XDG_DATA_HOME/glonks or
+// ~/.local/share/glonks, which need not be there.
 std::filesystem::path folderOfProgram();
 std::filesystem::path folderOfUsersData();
 
