@@ -1,5 +1,7 @@
 #include <exception>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "base/errors.h"
 #include "base/paths.h"
@@ -13,15 +15,21 @@
 #include "shell/toolkit/folderlock.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
+#include "storage/folders.h"
 
 namespace {
 
 using namespace glonks;
 
-// Whether this run may use the program's folder; tells the player if not.
-bool holdProgramFolder() {
-  switch (holdFolder(programFolder())) {
+// Settles where the game's files and the player's lie. Whether this run may use the player's; tells
+// the player if not.
+bool takeFolders() {
+  setFolders(folderOfProgram(), folderOfUsersData(), canWriteTo);
+  std::error_code seenWhenHeld;
+  std::filesystem::create_directories(playersFolder(), seenWhenHeld);
+  switch (holdFolder(playersFolder())) {
     case FolderHold::held:
+      makeFirstFiles();
       return true;
     case FolderHold::otherRun:
       messageBox("Glonks is already running.");
@@ -29,9 +37,9 @@ bool holdProgramFolder() {
     case FolderHold::notWritable:
       break;
   }
-  messageBox("Glonks can't write to its folder, so it could keep no scores:\n\n" +
-             fromUtf8(programFolder().string()) +
-             "\n\nPlease move it to a folder of your own and start it there.");
+  messageBox("Glonks can't write to this folder, so it could keep no scores:\n\n" +
+             fromUtf8(playersFolder().string()) +
+             "\n\nPlease see to it that you may write there, and start Glonks again.");
   return false;
 }
 
@@ -64,8 +72,7 @@ void endFailedRun(const std::exception& error, const std::string& shown) {
 int main() {
   try {
     startToolkit();
-    setProgramFolder(folderOfProgram());
-    if (!holdProgramFolder()) return 1;
+    if (!takeFolders()) return 1;
     setEndHandler(endByTheSystem);
     fTip_Form_Load();
     showForm(fTip);

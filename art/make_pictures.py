@@ -5,7 +5,7 @@ from functools import partial
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from pictures import creatures, effects, frames, glyphs, menu, pieces, plates, screens, sidewindows  # noqa: E402
+from pictures import creatures, effects, frames, glyphs, icons, menu, pieces, plates, screens, sidewindows  # noqa: E402
 from pictures.canvas import draw_icon, draw_sharp  # noqa: E402
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -40,6 +40,7 @@ def main():
     for name, draw in {**menu.PAGES, **sidewindows.WINDOWS}.items():
         save(draw(), f"forms/{name}.png")
     save(draw_icon(creatures.glonk_round, 64), "forms/icon.png")
+    icons.icons(ROOT / "packaging/icons")
     for name, draw in {**pieces.PIECES, **pieces.FRUIT, "detonator": pieces.detonator}.items():
         save(draw_icon(draw, 112), f"pictures/{name}.png", "manual")
 

@@ -17,7 +17,10 @@ void fSplash_Form_Load() {
   setBounds(fSplash_Image2, {600, 3720, 2535, 375});
   fSplash_Image2.hint = "Open the makers' page";
   fSplash_Image2.click = fSplash_Image2_Click;
-  fSplash.controls = {&fSplash_background, &fSplash_Image2};
+  setBounds(fSplash_version, {0, 3405, 3765, 225});
+  fSplash_version.caption = "Version " GLONKS_VERSION;
+  fSplash_version.centred = True;
+  fSplash.controls = {&fSplash_background, &fSplash_version, &fSplash_Image2};
 }
 
 void fSplash_Image2_Click() { openLink(makersAddress); }

@@ -11,5 +11,6 @@ void fSplash_Image2_Click();  // opens the makers' address
 inline Form fSplash;
 inline Image fSplash_background;
 inline Image fSplash_Image2;
+inline Label fSplash_version;
 
 }  // namespace glonks

@@ -29,6 +29,7 @@ struct Control {
 struct Label : Control {
   std::string caption;
   i32 overhang = 0;  // twips beyond its right edge that the caption may use as well
+  Flag centred = False;
 };
 
 // Several lines of text to read, with a scroll bar. A paragraph ends at a line end ("\n" or

@@ -80,7 +80,8 @@ class LabelMirror : public MirrorOf<Label, QLabel> {
     if (!differs(&Label::caption)) return;
     const bool isNarrow = data_.overhang > 0;
     view_.setIndent(pixels(isNarrow ? narrowIndent : labelIndent));
-    view_.setAlignment(Qt::AlignLeft | (isNarrow ? Qt::AlignVCenter : Qt::AlignTop));
+    view_.setAlignment((data_.centred != False ? Qt::AlignHCenter : Qt::AlignLeft) |
+                       (isNarrow ? Qt::AlignVCenter : Qt::AlignTop));
     view_.setText(shownText(data_.caption));
     fitFont();
   }

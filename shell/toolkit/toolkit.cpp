@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 #include <clocale>
 #include <map>
@@ -84,6 +85,7 @@ bool ask(const std::string& text, QDialogButtonBox::StandardButtons buttons) {
 void startToolkit() {
   makeApplication(programName);
   std::setlocale(LC_NUMERIC, "C");
+  QApplication::setDesktopFileName("glonks");
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(QIcon(":/forms/icon.png"));
   setAfterHandler(refreshVisibleForms);
@@ -91,6 +93,12 @@ void startToolkit() {
 
 std::filesystem::path folderOfProgram() {
   return QDir(QCoreApplication::applicationDirPath()).filesystemAbsolutePath();
+}
+
+std::filesystem::path folderOfUsersData() {
+  QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (QDir::isRelativePath(data)) data = QDir::homePath() + "/.local/share";  // as it is to be read
+  return QDir(data + "/glonks").filesystemAbsolutePath();
 }
 
 void showForm(Form& form, Handler load) {

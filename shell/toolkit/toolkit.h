@@ -11,9 +11,14 @@
 namespace glonks {
 
 // Makes the toolkit ready; first call of the program. Without a display, ends the program with a
-// sentence on stderr and exit status 1. The program's folder is that of the program file.
+// sentence on stderr and exit status 1.
 void startToolkit();
+
+// The folder of the program file itself, also if it was started by a link to it; and the one that
+// the system has for what this program keeps for its user, $XDG_DATA_HOME/glonks or
+// ~/.local/share/glonks, which need not be there.
 std::filesystem::path folderOfProgram();
+std::filesystem::path folderOfUsersData();
 
 // Shows a form, active and in front. For one that isn't open `load` runs first, and it comes up in
 // the centre of the screen; after hideForm it comes back to its old place as it was. The form and

@@ -36,7 +36,7 @@ void writeEntry(const std::string& line) {
 void openLog() {
   if (logEnabled == False) return;
   logFileNo = freeChannel();
-  attempt([] { openChannel(logFileNo, "\\log.txt", ChannelMode::output); });
+  attempt([] { openChannel(logFileNo, logPath, ChannelMode::output); });
   if (logEnabled != False) writeEntry(stamp("OPENED"));
 }
 

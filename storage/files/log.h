@@ -4,12 +4,13 @@
 
 #include "base/types.h"
 
-// A plain text trace of the steps that set up and end a game, in "\log.txt" of the
-// program's folder. Each run of the program replaces the log of the run before.
+// A plain text trace of the steps that set up and end a game, in the player's
+// folder. Each run of the program replaces the log of the run before.
 namespace glonks {
 
 inline Flag logEnabled = False;  // logging on; the routines do nothing while it is False
 inline i16 logFileNo = 0;        // channel of the open log
+inline constexpr char logPath[] = "\\log.txt";
 
 // Opens the log and writes its first line. A log that can't be created turns logging off.
 void openLog();

@@ -6,6 +6,7 @@ namespace glonks {
 
 void startToolkit() {}
 std::filesystem::path folderOfProgram() { return {}; }
+std::filesystem::path folderOfUsersData() { return {}; }
 void showForm(Form& /*form*/, Handler /*load*/) {}
 void hideForm(Form& /*form*/) {}
 void runEvents() {}
