@@ -20,7 +20,7 @@ FORKS = [[(38, 55), (50, 66), (60, 62)], [(27, 24), (36, 12), (46, 14)]]
 def zap_horizontal(ctx):
     for path, scale in [(line(*BOLT), 1)] + [(line(*fork), .5) for fork in FORKS]:
         stroke(ctx, path, rgb("10204e"), 19 * scale)
-    for colour, width in ((rgb("2d6cff"), 13), (rgb("7fd0ff"), 8.5), (rgb("f6fbff"), 4.5)):
+    for colour, width in ((rgb("2d6cff"), 13), (rgb("7fd0ff"), 8.5), (rgb("c8e8ff"), 4.5)):
         for fork in FORKS:
             stroke(ctx, line(*fork), colour, width * .45)
         stroke(ctx, line(*BOLT), colour, width)
@@ -46,8 +46,9 @@ def explosion(ctx):
         a, r = i * 2.39996, rng.uniform(112, 138)
         fill(ctx, circle(150 + r * math.cos(a), 150 + r * math.sin(a), rng.uniform(4, 8)), rgb("3a0c06"))
         fill(ctx, circle(150 + r * math.cos(a), 150 + r * math.sin(a), rng.uniform(2, 4)), rgb("ff9a2e"))
-    layers = [(burst(17, 143, 92, 4), "e8401c", "9a1410"), (burst(15, 118, 74, 12), "ff8a1e", "e8520e"),
-              (burst(13, 92, 56, 2), "ffd64a", "ffa51e"), (burst(11, 62, 38, 9), "fffbe0", "ffe884")]
+    # Warm, but nowhere near white: an explosion is gone after six frames, and a row of them must not flash.
+    layers = [(burst(17, 143, 92, 4), "d23c1c", "8c1410"), (burst(15, 118, 74, 12), "ea741c", "cc480e"),
+              (burst(13, 92, 56, 2), "f2a238", "e47f1c"), (burst(11, 62, 38, 9), "ffd98a", "f8b654")]
     for path, _, _ in layers:
         stroke(ctx, path, rgb("2a0606"), 9)
     for path, top, bottom in layers:

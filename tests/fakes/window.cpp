@@ -27,8 +27,11 @@ bool screenLost() { return fake::screenIsLost; }
 void ShowCursor(i32 show) { fake::cursorShown = show; }
 void openScreen(i32, i32, i32) {}
 void closeScreen() {}
-double screenScale() { return 1; }
-void showPicture(const ShownPicture& /*picture*/) { ++fake::picturesShown; }
+double screenScale() { return fake::scale; }
+void showPicture(const ShownPicture& picture) {
+  ++fake::picturesShown;
+  if (fake::pictureShown) fake::pictureShown(*picture.raster);
+}
 const KeyState& keyTable() { return fake::keys; }
 
 }  // namespace glonks

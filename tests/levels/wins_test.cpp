@@ -1,8 +1,8 @@
+#include "tests/levels/wins.h"
 #include "game/loading/levels.h"
 #include "game/modes.h"
 #include "player/player.h"
 #include "tests/headless/headlessgame.h"
-#include "tests/headless/recordedgame.h"
 #include "tests/tempfolder.h"
 
 namespace glonks {
@@ -11,11 +11,6 @@ namespace {
 class RecordedWins : public TempFolder {
  protected:
   RecordedWins() { setUpHeadless(folder); }
-
-  static RecordedGame recordOf(i32 level) {
-    const std::filesystem::path folder = GLONKS_SOURCE "/tests/levels/wins";
-    return readRecordedGame(folder / (std::to_string(level) + ".txt"));
-  }
 };
 
 // tools/record_wins makes the records again when rules, pieces or levels have been changed.
