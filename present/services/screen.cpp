@@ -62,6 +62,7 @@ bool upload(const Rect& part) {
 
 void showTexture(const std::vector<Rect>& changes) {
   const bool sent = texture != nullptr && std::all_of(changes.begin(), changes.end(), upload);
+  if (sent && changes.empty()) return;
   if (!sent) {
     createTexture();  // a display that was reset takes its textures with it
     if (!upload(shown->whole())) {
