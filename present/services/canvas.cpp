@@ -87,9 +87,8 @@ Rect Canvas::areaOf(const DrawStep& step) const {
 bool Canvas::covers(const Entry& entry, const Rect& part) const {
   if (entry.step.kind == DrawStep::Kind::text || !contains(entry.area, part)) return false;
   if (!entry.step.keyed) return true;
-  return preparedFor(entry).hides(
-      {part.left - entry.area.left, part.top - entry.area.top, part.right - entry.area.left,
-       part.bottom - entry.area.top});
+  return preparedFor(entry).hides({part.left - entry.area.left, part.top - entry.area.top,
+                                   part.right - entry.area.left, part.bottom - entry.area.top});
 }
 
 const PreparedPicture& Canvas::preparedFor(const Entry& entry) {

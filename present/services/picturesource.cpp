@@ -89,11 +89,11 @@ void PreparedPicture::draw(Raster& target, i32 left, i32 top, const Rect& clip) 
 bool PreparedPicture::hides(const Rect& part) const {
   for (i32 y = part.top; y < part.bottom; ++y) {
     const auto row = static_cast<std::size_t>(y);
-    const bool hidden = std::any_of(
-        runs.begin() + static_cast<std::ptrdiff_t>(rows[row]),
-        runs.begin() + static_cast<std::ptrdiff_t>(rows[row + 1]), [&](const Run& run) {
-          return run.solid && run.x <= part.left && run.x + run.length >= part.right;
-        });
+    const bool hidden =
+        std::any_of(runs.begin() + static_cast<std::ptrdiff_t>(rows[row]),
+                    runs.begin() + static_cast<std::ptrdiff_t>(rows[row + 1]), [&](const Run& run) {
+                      return run.solid && run.x <= part.left && run.x + run.length >= part.right;
+                    });
     if (!hidden) return false;
   }
   return true;
