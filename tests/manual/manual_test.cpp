@@ -22,6 +22,7 @@ TEST(Manual, IsWholeAndReachedByKeysAndLinks) {
     const std::string title = contents.currentItem()->text().toStdString();
     EXPECT_GT(text.toPlainText().size(), 150) << title;
     all += text.toPlainText();
+    EXPECT_EQ(text.accessibleName().toStdString(), title);
     for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next()) {
       for (auto part = block.begin(); !part.atEnd(); ++part) {
         const QTextCharFormat format = part.fragment().charFormat();

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -33,6 +35,34 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
     if (button->accessibleName() == hint) return button;
   }
   return nullptr;
+}
+
+// Everything that a screen reader finds has a name and a fitting role, and each picture tells what
+// it shows. What it finds goes into `found`, a line "role name (description)" each, the role as a
+// number.
+inline void checkNames(QAccessibleInterface* at, const std::string& where, std::string& found) {
+  const QAccessible::State state = at->state();
+  if (state.invisible) return;
+  const std::string name = at->text(QAccessible::Name).trimmed().toStdString();
+  const std::string description = at->text(QAccessible::Description).toStdString();
+  const bool isMute = at->role() == QAccessible::Client || at->role() == QAccessible::NoRole;
+  const bool inside = name.empty() && !state.focusable;  // holds others, like the area of a list
+  const std::string path = where + " / " + name;
+  EXPECT_TRUE(isMute || at->role() == QAccessible::LayeredPane ? inside : !name.empty())
+      << path << " has the role " << at->role();
+  const bool isDrawn = at->role() == QAccessible::Graphic || at->role() == QAccessible::Button;
+  const bool isAnswer = qobject_cast<QPushButton*>(at->object()) != nullptr;
+  EXPECT_TRUE(!isDrawn || isAnswer || (!description.empty() && description != name)) << path;
+  if (!name.empty()) found += std::to_string(at->role()) + " " + name + " (" + description + ")\n";
+  for (int i = 0; i < at->childCount(); ++i) {
+    if (QAccessibleInterface* child = at->child(i)) checkNames(child, path, found);
+  }
+}
+
+inline std::string namesIn(QWidget* window) {
+  std::string found;
+  checkNames(QAccessible::queryAccessibleInterface(window), "", found);
+  return found;
 }
 
 inline std::string lastMessage;  // the text of the last dialog that was answered
