@@ -48,7 +48,7 @@ void PictureView::fitTo(const QSize& size) {
 }
 
 void PictureView::keyPressEvent(QKeyEvent* event) {
-  if (!isClickable()) return QWidget::keyPressEvent(event);
+  if (!isClickable()) return event->ignore();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter) return QAbstractButton::keyPressEvent(event);
   if (!event->isAutoRepeat()) click();
