@@ -77,6 +77,8 @@ ManualWindow::ManualWindow() : contents_(*new QListWidget), text_(*new ChapterVi
   setWindowIcon(QIcon(":/manual/pictures/glonk_01.png"));
   for (const Chapter& chapter : chapters) contents_.addItem(chapter.title);
   contents_.setAccessibleName("Contents");
+  contents_.verticalScrollBar()->setAccessibleName("Scroll");
+  text_.verticalScrollBar()->setAccessibleName("Scroll");
   contents_.setFixedWidth(contentsWidth * scaleFactor());
   QFont font = text_.font();
   font.setPixelSize(textHeight * scaleFactor());

@@ -22,7 +22,6 @@ TEST(Manual, IsWholeAndReachedByKeysAndLinks) {
     const std::string title = contents.currentItem()->text().toStdString();
     EXPECT_GT(text.toPlainText().size(), 150) << title;
     all += text.toPlainText();
-    EXPECT_EQ(text.accessibleName().toStdString(), title);
     for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next()) {
       for (auto part = block.begin(); !part.atEnd(); ++part) {
         const QTextCharFormat format = part.fragment().charFormat();
@@ -49,6 +48,7 @@ TEST(Manual, IsWholeAndReachedByKeysAndLinks) {
     EXPECT_TRUE(all.contains(row)) << item.words;
   }
   window.show();
+  EXPECT_NE(namesIn(&window).find("Contents ()"), std::string::npos);
   QApplication::setActiveWindow(&window);
   QTest::keyClick(&text, Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());

@@ -148,7 +148,6 @@ TEST_F(MainWindowTest, EverythingHasANameForThoseWhoCannotSeeIt) {
   setText(tMode, "Arcade");
   showForm(fTip);
   std::string elsewhere = namesIn(shownWindow(" "));
-  EXPECT_PRED2(holds, elsewhere, "Did you know?");
   shownWindow(" ")->close();
   for (const auto& [entry, texts] : table) {
     choose(entry);
@@ -164,8 +163,7 @@ TEST_F(MainWindowTest, EverythingHasANameForThoseWhoCannotSeeIt) {
     if (shown != window) shown->close();
   }
   later([] {
-    const std::string box = namesIn(QApplication::activeModalWidget());
-    EXPECT_TRUE(holds(box, " Who? ()\n") && holds(box, "OK") && holds(box, "Cancel")) << box;
+    EXPECT_PRED2(holds, namesIn(QApplication::activeModalWidget()), "Cancel ()\nWho? ()\n");
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
   });
   inputBox("Who?", 5);

@@ -37,32 +37,27 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
   return nullptr;
 }
 
-// Everything that a screen reader finds has a name and a fitting role, and each picture tells what
-// it shows. What it finds goes into `found`, a line "role name (description)" each, the role as a
-// number.
-inline void checkNames(QAccessibleInterface* at, const std::string& where, std::string& found) {
-  const QAccessible::State state = at->state();
-  if (state.invisible) return;
+// What a screen reader finds, a line "name (description)" each. Everything has a name and a fitting
+// role, and what is drawn in a picture tells more than its name.
+inline std::string namesIn(QAccessibleInterface* at, const std::string& where = "") {
+  if (at->state().invisible) return "";
   const std::string name = at->text(QAccessible::Name).trimmed().toStdString();
   const std::string description = at->text(QAccessible::Description).toStdString();
-  const bool isMute = at->role() == QAccessible::Client || at->role() == QAccessible::NoRole;
-  const bool inside = name.empty() && !state.focusable;  // holds others, like the area of a list
+  const auto is = [at](auto... roles) { return ((at->role() == roles) || ...); };
+  const bool isMute = is(QAccessible::Client, QAccessible::NoRole, QAccessible::LayeredPane);
+  const bool isDrawn = is(QAccessible::Graphic, QAccessible::Button) &&
+                       qobject_cast<QPushButton*>(at->object()) == nullptr;
+  const bool inside = name.empty() && !at->state().focusable;  // of a list, or of a window
   const std::string path = where + " / " + name;
-  EXPECT_TRUE(isMute || at->role() == QAccessible::LayeredPane ? inside : !name.empty())
-      << path << " has the role " << at->role();
-  const bool isDrawn = at->role() == QAccessible::Graphic || at->role() == QAccessible::Button;
-  const bool isAnswer = qobject_cast<QPushButton*>(at->object()) != nullptr;
-  EXPECT_TRUE(!isDrawn || isAnswer || (!description.empty() && description != name)) << path;
-  if (!name.empty()) found += std::to_string(at->role()) + " " + name + " (" + description + ")\n";
-  for (int i = 0; i < at->childCount(); ++i) {
-    if (QAccessibleInterface* child = at->child(i)) checkNames(child, path, found);
-  }
+  EXPECT_TRUE(isMute ? inside : !name.empty()) << path << " has the role " << at->role();
+  EXPECT_TRUE(!isDrawn || (!description.empty() && description != name)) << path;
+  std::string found = name.empty() ? "" : name + " (" + description + ")\n";
+  for (int i = 0; i < at->childCount(); ++i) found += namesIn(at->child(i), path);
+  return found;
 }
 
 inline std::string namesIn(QWidget* window) {
-  std::string found;
-  checkNames(QAccessible::queryAccessibleInterface(window), "", found);
-  return found;
+  return namesIn(QAccessible::queryAccessibleInterface(window));
 }
 
 inline std::string lastMessage;  // the text of the last dialog that was answered
