@@ -76,6 +76,9 @@ ManualWindow::ManualWindow() : contents_(*new QListWidget), text_(*new ChapterVi
   setWindowTitle("Glonks - the manual");
   setWindowIcon(QIcon(":/manual/pictures/glonk_01.png"));
   for (const Chapter& chapter : chapters) contents_.addItem(chapter.title);
+  contents_.setAccessibleName("Contents");
+  contents_.verticalScrollBar()->setAccessibleName("Scroll");
+  text_.verticalScrollBar()->setAccessibleName("Scroll");
   contents_.setFixedWidth(contentsWidth * scaleFactor());
   QFont font = text_.font();
   font.setPixelSize(textHeight * scaleFactor());
@@ -117,6 +120,7 @@ void ManualWindow::makeShortcuts() {
 
 void ManualWindow::showChapter(int chapter) {
   if (chapter < 0) return;
+  text_.setAccessibleName(chapters[chapter].title);
   text_.setHtml(chapterText(chapters[chapter]));
   text_.verticalScrollBar()->setValue(0);
 }

@@ -1,5 +1,6 @@
 #include "shell/backgroundspage.h"
 
+#include "base/text.h"
 #include "game/model/model.h"
 #include "game/model/resources.h"
 #include "shell/bandspage.h"
@@ -10,7 +11,10 @@
 namespace glonks {
 namespace {
 
-void showPlate(i16 number) { themePic.picture = platePath(textOf(theme), number); }
+void showPlate(i16 number) {
+  themePic.picture = platePath(textOf(theme), number);
+  setWords(themePic, "Preview", "Picture " + plainNumber(number) + " of " + textOf(theme));
+}
 
 }  // namespace
 

@@ -103,12 +103,16 @@ void fPieces_Form_Load() {
   constexpr auto clicks = handlersOf<pClick_Click, specimenCount>();
   setInside(fPieces, "the specimen box", 5760, 4755, fPieces_background, ":/forms/specimens.png");
   setBounds(pieceDesc, {120, 3360, 5415, 1215, 0});
+  setWords(fPieces_background, "The specimen box",
+           "A wooden box with a piece in each compartment.");
+  setWords(pieceDesc, "Description");
   pieceDesc.text = "Click on a piece for its description.\r\n";
   fPieces.controls = {&fPieces_background, &pieceDesc};
   for (std::size_t i = 0; i < specimens.size(); ++i) {
     const auto& [left, top, kind] = specimens[i];
     setBounds(pClick[i], {left, top, specimenWidth, specimenHeight});
     pClick[i].hint = kind.name;
+    pClick[i].description = kind.text;
     pClick[i].click = clicks[i];
     fPieces.controls.emplace_back(&pClick[i]);
   }

@@ -23,7 +23,10 @@ const std::string greeting = "Welcome to Glonks!  Have a good game.";
 
 void layOut() {
   setInside(fTip, "", 4365, 2490, fTip_background, ":/forms/tip.png");
+  fTip.name = "Tip";
+  setWords(fTip_background, "Did you know?", "Two Glonks look over the tip.");
   setBounds(tip, {140, 640, 4095, 1695, 0});
+  setWords(tip, "Did you know?");
   tip.fontHeight = tipFont;
   fTip.controls = {&fTip_background, &tip};
 }

@@ -18,6 +18,11 @@ namespace {
 
 constexpr i16 modeSlots = 4;
 
+// Told with the lists too, for those who can't see it beside them.
+void describe(const std::string& words) {
+  tModeDesc.caption = tMode.description = tLevels.description = words;
+}
+
 }  // namespace
 
 void mNew_Click() { showPage(newGamePage); }
@@ -49,7 +54,7 @@ void popModes() {
 void tMode_Click() {
   clearItems(tLevels);
   const Mode mode = modeTitled(textOf(tMode));
-  tModeDesc.caption = mode.modeDescription;
+  describe(mode.modeDescription);
   for (const std::string& item : mode.levelItems) addItem(tLevels, item);
   if (mode.hasGoals == True) {
     succeeds(readOpenLevels);
@@ -60,12 +65,12 @@ void tMode_Click() {
 
 void tLevels_Click() {
   const Mode mode = modeTitled(textOf(tMode));
-  tModeDesc.caption = mode.modeDescription;
+  describe(mode.modeDescription);
   if (mode.hasGoals != True) return;
   succeeds([] {
     const i32 file = tLevels.itemData[static_cast<std::size_t>(tLevels.listIndex)];
     const std::string words = goalWords(readLevelHead(levelPath(file)));
-    if (!words.empty()) tModeDesc.caption = words;
+    if (!words.empty()) describe(words);
   });
 }
 

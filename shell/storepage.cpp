@@ -16,10 +16,16 @@ namespace glonks {
 namespace {
 
 void showCount(i16 slot) {
-  tpurchase[static_cast<std::size_t>(slot)].caption = plainNumber(stockOf(slot));
+  Label& count = tpurchase[static_cast<std::size_t>(slot)];
+  count.caption = plainNumber(stockOf(slot));
+  count.name = std::string("Total of ") + storeItems[static_cast<std::size_t>(slot)].words + ": " +
+               count.caption;
 }
 
-void showBank() { tBank.caption = plainNumber(bank); }
+void showBank() {
+  tBank.caption = plainNumber(bank);
+  tBank.name = "Bank: " + tBank.caption + " credits";
+}
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "shell/toolkit/accessible.h"
 #include "shell/toolkit/style.h"
 
 namespace glonks {
@@ -30,6 +31,7 @@ QApplication& makeApplication(const char* name) {
   qInstallMessageHandler(usual);
   QApplication::setApplicationName(name);
   applyStyle(*application);
+  installAccessibleRoles();
   return *application;
 }
 

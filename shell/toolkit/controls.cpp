@@ -7,6 +7,17 @@
 
 namespace glonks {
 
+void setBounds(Control& control, const Control& at) {
+  const Control before = control;
+  control = at;
+  setWords(control, before.name, before.description);
+}
+
+void setWords(Control& control, const std::string& name, const std::string& description) {
+  control.name = name;
+  control.description = description;
+}
+
 void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,
                const std::string& picture) {
   form.caption = caption;

@@ -23,6 +23,10 @@ struct Control {
   i16 tabIndex = -1;  // place in the order of the Tab key; -1: never gets the focus
   Flag visible = True;
   Flag enabled = True;
+  // For those who can't see it: what it is called, and what else there is to know, like the words
+  // in a picture. Needed where the control shows no text that tells it.
+  std::string name{};
+  std::string description{};
 };
 
 // Its font becomes smaller where a word is too wide for it.
@@ -40,10 +44,11 @@ struct TextBox : Control {
 };
 
 // A picture stretched over the control (a path of the game, or of the program's own pictures).
-// Without a picture it is a hot spot, which shows nothing and only takes clicks.
+// Without a picture it is a hot spot, which shows nothing and only takes clicks. What takes clicks
+// takes the focus too, after everything that has a tabIndex.
 struct Image : Control {
   std::string picture;
-  std::string hint;  // what a hot spot does, for those who can't see the picture below it
+  std::string hint;  // what a hot spot does: its name
   Handler click = nullptr;
 };
 
@@ -98,11 +103,15 @@ struct Form {
   Handler unload = nullptr;
   std::vector<Menu> menus;
   std::vector<ControlRef> controls;
+  std::string name{};  // for those who can't see it, if it has no caption
 };
 
 // Puts a control at left, top, width, height and, for what the Tab key stops at, its place in that
-// order. It is visible and enabled afterwards.
-inline void setBounds(Control& control, const Control& at) { control = at; }
+// order. It is visible and enabled afterwards, and keeps its name and description.
+void setBounds(Control& control, const Control& at);
+
+// Sets what those are told who can't see the control.
+void setWords(Control& control, const std::string& name, const std::string& description = "");
 
 // Sets a form's caption, the size of its inside and a picture that fills it.
 void setInside(Form& form, const std::string& caption, i32 width, i32 height, Image& background,

@@ -50,6 +50,7 @@ QLabel* makeLabel(const QString& text, const QScreen& screen) {
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   label->setText(text);
+  label->setAccessibleName(text);  // without places to break
   const int widest =
       std::min(widestText * scaleFactor(), screen.availableGeometry().width() * 3 / 4);
   const int width = std::clamp(label->sizeHint().width(), narrowestText * scaleFactor(), widest);
@@ -71,6 +72,7 @@ DialogBox::DialogBox(const QString& text, QDialogButtonBox::StandardButtons butt
   column->setSizeConstraint(QLayout::SetFixedSize);
   column->addWidget(makeLabel(text, *screen()));
   auto* row = new QDialogButtonBox(buttons);
+  row->setAccessibleName("Answers");
   column->addWidget(row);
   connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -79,6 +81,7 @@ DialogBox::DialogBox(const QString& text, QDialogButtonBox::StandardButtons butt
 QLineEdit& DialogBox::addLine(int longest) {
   auto* line = new QLineEdit;
   line->setMaxLength(longest);
+  line->setAccessibleName(findChild<QLabel*>()->accessibleName());
   static_cast<QVBoxLayout*>(layout())->insertWidget(1, line);
   line->setFocus();
   return *line;

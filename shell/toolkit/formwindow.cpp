@@ -34,6 +34,7 @@ FormWindow::FormWindow(Form& form) : form_(form), inside_(*new QWidget(this)) {
 void FormWindow::makeMenus() {
   if (form_.menus.empty()) return;
   menuBar()->setNativeMenuBar(false);
+  menuBar()->setAccessibleName("Menu");
   for (const Menu& menu : form_.menus) {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
     for (const MenuEntry& entry : menu.entries) {
@@ -49,6 +50,7 @@ void FormWindow::refresh() {
   const QString title =
       form_.caption.empty() ? " " : shownText(form_.caption);  // or Qt shows its own
   if (windowTitle() != title) setWindowTitle(title);
+  if (form_.caption.empty()) setAccessibleName(shownText(form_.name));
   const QSize size(pixels(form_.width), pixels(form_.height));
   if (inside_.minimumSize() != size) inside_.setFixedSize(size);
   const QWidget* inFocus = focusWidget();

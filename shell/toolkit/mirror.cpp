@@ -34,6 +34,10 @@ class MirrorOf : public Mirror {
   void refresh() override {
     refreshBounds();
     refreshContents();
+    if (differs(&Control::name)) view_.setAccessibleName(shownText(data_.name));
+    if (differs(&Control::description)) {
+      view_.setAccessibleDescription(shownText(data_.description));
+    }
     if (differs(&Control::enabled)) view_.setEnabled(data_.enabled != False);
     if (view_.isHidden() == isOnShow()) view_.setVisible(isOnShow());
   }
@@ -106,6 +110,7 @@ class TextBoxMirror : public MirrorOf<TextBox, QPlainTextEdit> {
   TextBoxMirror(TextBox& data, QWidget& parent) : MirrorOf(data, parent) {
     view_.setReadOnly(true);
     view_.setTabChangesFocus(true);
+    view_.verticalScrollBar()->setAccessibleName("Scroll");
     view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   }
 
@@ -128,31 +133,21 @@ QString pictureFile(const std::string& path) {
 
 class ImageMirror : public MirrorOf<Image, PictureView> {
  public:
-  ImageMirror(Image& data, QWidget& parent) : MirrorOf(data, parent), spot_(*new HotSpot(&view_)) {
-    spot_.hide();
-    view_.setAttribute(Qt::WA_TransparentForMouseEvents);
-    QObject::connect(&spot_, &HotSpot::clicked,
+  ImageMirror(Image& data, QWidget& parent) : MirrorOf(data, parent) {
+    view_.setUse(data.click != nullptr, data.tabIndex >= 0);
+    QObject::connect(&view_, &PictureView::clicked,
                      [this] { enterFromQt([this] { run(data_.click); }); });
   }
-
-  HotSpot& spot() { return spot_; }
 
  protected:
   void refreshContents() override {
     if (differs(&Image::picture)) view_.setFile(pictureFile(data_.picture));
     if (differs(&Image::hint)) {
-      spot_.setAccessibleName(shownText(data_.hint));
-      spot_.setToolTip(shownText(data_.hint));
+      view_.setAccessibleName(shownText(data_.hint));
+      view_.setToolTip(shownText(data_.hint));
     }
-    if (differs(&Image::click)) {
-      view_.setAttribute(Qt::WA_TransparentForMouseEvents, data_.click == nullptr);
-      spot_.setVisible(data_.click != nullptr);
-    }
-    if (spot_.size() != view_.size()) spot_.resize(view_.size());
+    if (differs(&Image::click)) view_.setUse(data_.click != nullptr, data_.tabIndex >= 0);
   }
-
- private:
-  HotSpot& spot_;
 };
 
 QStringList shownItems(const Choices& list) {
@@ -236,7 +231,7 @@ class ScrollBarMirror : public MirrorOf<HScrollBar, QScrollBar> {
 };
 
 // `inFront` are the frames that may cover it.
-class FrameMirror : public MirrorOf<Frame, QWidget> {
+class FrameMirror : public MirrorOf<Frame, PageView> {
  public:
   FrameMirror(Frame& data, std::vector<const Frame*> inFront, QWidget& parent,
               std::vector<TabStop>& stops)
@@ -282,7 +277,8 @@ class Maker {
   }
   std::unique_ptr<Mirror> operator()(Image* data) const {
     auto mirror = std::make_unique<ImageMirror>(*data, parent_);
-    stops_.push_back({afterAllOthers, &mirror->spot()});
+    const int place = data->tabIndex >= 0 ? data->tabIndex : afterAllOthers;
+    if (mirror->view().focusPolicy() != Qt::NoFocus) stops_.push_back({place, &mirror->view()});
     return mirror;
   }
   std::unique_ptr<Mirror> operator()(TextBox* data) const { return stop<TextBoxMirror>(*data); }

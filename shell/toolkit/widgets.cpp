@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
@@ -15,7 +16,17 @@
 
 namespace glonks {
 
-PictureView::PictureView(QWidget* parent) : QWidget(parent) {}
+PictureView::PictureView(QWidget* parent) : QAbstractButton(parent) {
+  setAttribute(Qt::WA_Hover);
+  setUse(false, false);
+}
+
+void PictureView::setUse(bool clickable, bool tabStop) {
+  setAttribute(Qt::WA_TransparentForMouseEvents, !clickable);
+  setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  // Not by the mouse: a click leaves the focus with the list that it is about.
+  setFocusPolicy(clickable || tabStop ? Qt::TabFocus : Qt::NoFocus);
+}
 
 void PictureView::setFile(const QString& file) {
   file_ = file;
@@ -36,28 +47,23 @@ void PictureView::fitTo(const QSize& size) {
   fitted_.convertFromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
-void PictureView::paintEvent(QPaintEvent*) {
-  fitTo(size() * devicePixelRatioF());
-  if (!fitted_.isNull()) QPainter(this).drawPixmap(rect(), fitted_);
-}
-
-HotSpot::HotSpot(QWidget* parent) : QAbstractButton(parent) {
-  setAttribute(Qt::WA_Hover);
-  setCursor(Qt::PointingHandCursor);
-  setFocusPolicy(Qt::TabFocus);  // a click leaves the focus with the list that it is about
-}
-
-void HotSpot::keyPressEvent(QKeyEvent* event) {
+void PictureView::keyPressEvent(QKeyEvent* event) {
+  if (!isClickable()) return event->ignore();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter) return QAbstractButton::keyPressEvent(event);
   if (!event->isAutoRepeat()) click();
 }
 
-void HotSpot::paintEvent(QPaintEvent*) {
-  if (!isEnabled() || !(hasFocus() || underMouse())) return;
+void PictureView::paintEvent(QPaintEvent*) {
+  fitTo(size() * devicePixelRatioF());
+  QPainter painter(this);
+  if (!fitted_.isNull()) painter.drawPixmap(rect(), fitted_);
+  if (isClickable() && isEnabled() && (hasFocus() || underMouse())) paintFrame(painter);
+}
+
+void PictureView::paintFrame(QPainter& painter) const {
   const qreal pixel = scaleFactor();
   const QRectF inside = QRectF(rect()).adjusted(pixel, pixel, -pixel, -pixel);
-  QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(isDown() ? QColor(0, 0, 0, 60) : QColor(255, 255, 255, 26));
   painter.setPen(QPen(QColor(255, 255, 255, 60), 2 * pixel));
@@ -150,6 +156,7 @@ ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setItemDelegate(new ListRow(*this));
+  verticalScrollBar()->setAccessibleName("Scroll");
 }
 
 int ChoiceList::selectedRow() const {

@@ -9,34 +9,37 @@
 // Widgets that the controls need and that Qt doesn't have in this form.
 namespace glonks {
 
-// A picture, stretched over the widget.
-class PictureView : public QWidget {
+// A page or another group of controls.
+class PageView : public QWidget {
+ public:
+  using QWidget::QWidget;
+};
+
+// A picture, stretched over the widget. If it takes clicks it is a button, which shows a frame
+// while the focus or the mouse is on it.
+class PictureView : public QAbstractButton {
  public:
   explicit PictureView(QWidget* parent);
+
+  // Whether it takes clicks, and whether the Tab key stops at it even if it doesn't.
+  void setUse(bool clickable, bool tabStop);
+  bool isClickable() const { return !testAttribute(Qt::WA_TransparentForMouseEvents); }
 
   // Shows the picture of this file, or nothing if it can't be loaded, isn't a regular file or has
   // no name.
   void setFile(const QString& file);
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paintFrame(QPainter& painter) const;
   void fitTo(const QSize& size);
 
   QString file_;
   QPixmap fitted_;  // the picture in the size of the widget
   QSize fittedTo_;  // the size in screen pixels that fitted_ was made for
-};
-
-// A button that shows nothing but a frame while the focus or the mouse is on it.
-class HotSpot : public QAbstractButton {
- public:
-  explicit HotSpot(QWidget* parent);
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
 };
 
 // A drop-down list with an arrow that suits the style.

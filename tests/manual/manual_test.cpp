@@ -48,6 +48,7 @@ TEST(Manual, IsWholeAndReachedByKeysAndLinks) {
     EXPECT_TRUE(all.contains(row)) << item.words;
   }
   window.show();
+  EXPECT_NE(namesIn(&window).find("Contents ()"), std::string::npos);
   QApplication::setActiveWindow(&window);
   QTest::keyClick(&text, Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());

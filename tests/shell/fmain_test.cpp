@@ -131,6 +131,44 @@ TEST_F(MainWindowTest, MenuEntriesShowTheirPageOrWindowAndSpecimensTellAboutThem
   }
 }
 
+TEST_F(MainWindowTest, EverythingHasANameForThoseWhoCannotSeeIt) {
+  const std::pair<const char*, Texts> table[] = {
+      // menu entry, what is found there and nowhere else
+      {"", {"Slam them.", "Start"}},
+      {"&New", {"Mode: Arcade (Every", "Level (Every", "Play"}},
+      {"&High Scores", {"The best ten", "podium"}},
+      {"&Credits", {"Glonks stand below"}},
+      {"&Spend Credits", {"Bank: 5 credits", "Total of a Bomb: 1", "a Bomb (Cost: 4 credits)"}},
+      {"&Backgrounds", {"Theme: Cells", "Preview (Picture 1 of Cells)", "this theme, 1 to 5"}},
+      {"&Music", {"Volume ()", "Songs ()"}},
+      {"&Bands", {"Who plays here (Pick a band"}},
+      {"&About", {"Made by the Glonks makers.", "Open the makers' page"}},
+      {"&Pieces", {"Description ()", "Gorgon (Gorgons function"}},
+      {"&Controls", {"The Keys (Up and Down: move"}}};
+  setText(tMode, "Arcade");
+  showForm(fTip);
+  std::string elsewhere = namesIn(shownWindow(" "));
+  shownWindow(" ")->close();
+  for (const auto& [entry, texts] : table) {
+    choose(entry);
+    QWidget* shown = nullptr;
+    for (const char* title : {"about", "the specimen box", "the control room", "Glonks"}) {
+      if (shown == nullptr) shown = shownWindow(title);
+    }
+    const std::string found = namesIn(shown);
+    for (const std::string& text : texts) {
+      EXPECT_TRUE(holds(found, text) && !holds(elsewhere, text)) << entry << text << found;
+    }
+    elsewhere += found;
+    if (shown != window) shown->close();
+  }
+  later([] {
+    EXPECT_PRED2(holds, namesIn(QApplication::activeModalWidget()), "Cancel ()\nWho? ()\n");
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+  });
+  inputBox("Who?", 5);
+}
+
 TEST_F(MainWindowTest, LinksGoToTheSystem) {
   QTextBrowser browser;  // stands for the player's
   QDesktopServices::setUrlHandler("https", &browser, "setSource");

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -33,6 +35,29 @@ inline QAbstractButton* hotSpot(const QWidget* window, const QString& hint) {
     if (button->accessibleName() == hint) return button;
   }
   return nullptr;
+}
+
+// What a screen reader finds, a line "name (description)" each. Everything has a name and a fitting
+// role, and what is drawn in a picture tells more than its name.
+inline std::string namesIn(QAccessibleInterface* at, const std::string& where = "") {
+  if (at->state().invisible) return "";
+  const std::string name = at->text(QAccessible::Name).trimmed().toStdString();
+  const std::string description = at->text(QAccessible::Description).toStdString();
+  const auto is = [at](auto... roles) { return ((at->role() == roles) || ...); };
+  const bool isMute = is(QAccessible::Client, QAccessible::NoRole, QAccessible::LayeredPane);
+  const bool isDrawn = is(QAccessible::Graphic, QAccessible::Button) &&
+                       qobject_cast<QPushButton*>(at->object()) == nullptr;
+  const bool inside = name.empty() && !at->state().focusable;  // of a list, or of a window
+  const std::string path = where + " / " + name;
+  EXPECT_TRUE(isMute ? inside : !name.empty()) << path << " has the role " << at->role();
+  EXPECT_TRUE(!isDrawn || (!description.empty() && description != name)) << path;
+  std::string found = name.empty() ? "" : name + " (" + description + ")\n";
+  for (int i = 0; i < at->childCount(); ++i) found += namesIn(at->child(i), path);
+  return found;
+}
+
+inline std::string namesIn(QWidget* window) {
+  return namesIn(QAccessible::queryAccessibleInterface(window));
 }
 
 inline std::string lastMessage;  // the text of the last dialog that was answered
