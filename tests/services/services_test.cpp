@@ -197,7 +197,8 @@ i32 told = 0;  // the keys that were down when the game was last told of one; -1
 // The scan codes of all keys that are down, added up.
 void noteKeys() {
   told = 0;
-  for (i32 code = 0; code < 256; ++code) told += keyTable()[code] != 0 ? code : 0;
+  const KeyState keys = takeKeys();
+  for (i32 code = 0; code < 256; ++code) told += keys[code] != 0 ? code : 0;
 }
 
 struct Window : ::testing::Test {
