@@ -94,14 +94,17 @@ void noteChange(PadButton button, bool isDown) {
   if (isDown && repeatsItself(button)) repeat = {button, GetTickCount() + firstRepeat};
 }
 
-// Compares with the buttons that were held so far. `pad` has changed.
+// Compares with the buttons that were held so far. `pad` has changed. A stick that turns lets its
+// old direction go first.
 void noteChanges(SDL_JoystickID pad) {
   const Buttons now = buttonsDown();
   const Buttons before = std::exchange(held, now);
-  for (std::size_t i = 0; i < buttonCount; ++i) {
-    if (now[i] == before[i]) continue;
-    if (now[i]) padInUse = true, lastUsed = pad;
-    noteChange(static_cast<PadButton>(i), now[i]);
+  for (const bool isDown : {false, true}) {
+    for (std::size_t i = 0; i < buttonCount; ++i) {
+      if (now[i] == before[i] || now[i] != isDown) continue;
+      if (isDown) padInUse = true, lastUsed = pad;
+      noteChange(static_cast<PadButton>(i), isDown);
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "present/services/directx.h"
+#include "present/services/gamepad.h"
 #include "present/services/screen.h"
 #include "present/services/sdlwindow.h"
 #include "present/services/window.h"
@@ -14,6 +15,14 @@
 // In the place of SDL's own, which does nothing here.
 static int timesMaximised = 0;
 extern "C" void SDL_MaximizeWindow(SDL_Window* /*window*/) { ++timesMaximised; }
+
+// A wait in which nothing comes.
+static std::vector<int> waits;
+extern "C" int SDL_WaitEventTimeout(SDL_Event* /*event*/, int timeout) {
+  waits.push_back(timeout);
+  glonks::fake::clockNow += static_cast<unsigned>(timeout);
+  return 0;
+}
 
 namespace glonks {
 namespace {
@@ -193,10 +202,12 @@ TEST_F(Files, PngsAreTakenForBitmapsAtTwiceTheSizeWithWhatTheySayOfSeeingThrough
 }
 
 i32 told = 0;  // the keys that were down when the game was last told of one; -1: asked to close
+i32 timesTold = 0;
+i32 padsGone = 0;
 
 // The scan codes of all keys that are down, added up.
 void noteKeys() {
-  told = 0;
+  told = 0, ++timesTold;
   const KeyState keys = takeKeys();
   for (i32 code = 0; code < 256; ++code) told += keys[code] != 0 ? code : 0;
 }
@@ -205,7 +216,7 @@ struct Window : ::testing::Test {
   ~Window() override { closeWindow(handle); }
   static i32 open() {
     setenv("SDL_VIDEODRIVER", "dummy", 1);
-    return openWindow("Glonks", {noteKeys, [] { told = -1; }});
+    return openWindow("Glonks", {noteKeys, [] { told = -1; }, [] { ++padsGone; }});
   }
   // What the game is told of an event, of a key that is held so long that it repeats itself or of
   // the window.
@@ -254,6 +265,139 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   }
   EXPECT_EQ(told, 1 + 2 + 3 + 4 + 5 + 49 + 200 + 205 + 208);
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+// A gamepad of SDL's, plugged in as long as the object lives.
+struct VirtualPad {
+  VirtualPad() {
+    const int index = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER,
+                                                SDL_CONTROLLER_AXIS_MAX, axis, 0);
+    joystick = SDL_JoystickOpen(index);
+    id = SDL_JoystickInstanceID(joystick);
+  }
+  ~VirtualPad() {
+    for (int i = 0; i < SDL_NumJoysticks(); ++i) {
+      if (SDL_JoystickGetDeviceInstanceID(i) == id) SDL_JoystickDetachVirtual(i);
+    }
+    letWindowMessagesThrough(0);
+    SDL_JoystickClose(joystick);
+  }
+  // Moves a button, or the axis what - axis.
+  void set(int what, int value) const {
+    if (what < axis) SDL_JoystickSetVirtualButton(joystick, what, static_cast<Uint8>(value));
+    if (what >= axis) SDL_JoystickSetVirtualAxis(joystick, what - axis, static_cast<Sint16>(value));
+  }
+  static constexpr int axis = SDL_CONTROLLER_BUTTON_MAX;
+  SDL_Joystick* joystick = nullptr;
+  SDL_JoystickID id = 0;
+};
+
+struct Pads : Window {
+  // How often the game is told of keys after some ms.
+  static i32 after(u32 ms) {
+    fake::clockNow += ms;
+    timesTold = 0;
+    letWindowMessagesThrough(0);
+    return timesTold;
+  }
+  // The keys that it is told of, added up; 0 if of none, -1 if more than once.
+  i32 keysBy(int what, int value) const {
+    told = 0;
+    pad->set(what, value);
+    return after(0) > 1 ? -1 : told;
+  }
+  Pads() {
+    readGamepads();
+    pad = std::make_unique<VirtualPad>();
+    letWindowMessagesThrough(0);
+    padsGone = 0;
+  }
+  std::unique_ptr<VirtualPad> pad;
+};
+
+constexpr int padA = SDL_CONTROLLER_BUTTON_A, crossUp = SDL_CONTROLLER_BUTTON_DPAD_UP,
+              crossRight = SDL_CONTROLLER_BUTTON_DPAD_RIGHT, padStart = SDL_CONTROLLER_BUTTON_START,
+              stickX = VirtualPad::axis + SDL_CONTROLLER_AXIS_LEFTX,
+              stickY = VirtualPad::axis + SDL_CONTROLLER_AXIS_LEFTY;
+
+TEST_F(Pads, ButtonsAreKeysOfWhichDirectionsAndItemsRepeatThemselves) {
+  const std::tuple<int, i32, i32> buttons[] = {{crossUp, 200, 1},
+                                               {SDL_CONTROLLER_BUTTON_DPAD_DOWN, 208, 1},
+                                               {SDL_CONTROLLER_BUTTON_DPAD_LEFT, 203, 1},
+                                               {crossRight, 205, 1},
+                                               {padA, 2, 1},
+                                               {SDL_CONTROLLER_BUTTON_B, 3, 1},
+                                               {SDL_CONTROLLER_BUTTON_X, 4, 1},
+                                               {SDL_CONTROLLER_BUTTON_Y, 5, 1},
+                                               {padStart, 25, 0},
+                                               {SDL_CONTROLLER_BUTTON_LEFTSHOULDER, 49, 0},
+                                               {SDL_CONTROLLER_BUTTON_RIGHTSHOULDER, 49, 0},
+                                               {SDL_CONTROLLER_BUTTON_BACK, 0xE0, 0}};
+  for (const auto& [button, code, repeats] : buttons) {
+    EXPECT_EQ(keysBy(button, 1), code);
+    EXPECT_TRUE(after(499) == 0 && after(1) == repeats && after(32) == 0 && after(1) == repeats);
+    const i32 other = button == padA ? crossRight : padA;
+    // A key that doesn't repeat itself isn't down any more either, or a held Start would go on.
+    EXPECT_EQ(keysBy(other, 1), (other == padA ? 2 : 205) + code * repeats) << code;
+    EXPECT_TRUE(keysBy(button, 0) == 0 && after(500) == 1) << "the last one repeats itself";
+    EXPECT_TRUE(keysBy(other, 0) == 0 && after(900) == 0) << code;
+  }
+}
+
+TEST_F(Pads, TheStickLeansToItsStrongerAxisUntilItComesBackAGoodWay) {
+  const std::tuple<int, int, i32> moves[] = {
+      {stickX, 15000, 0},   {stickX, 17000, 205}, {stickX, 12000, 0},    {padA, 1, 2 + 205},
+      {padA, 0, 0},         {stickX, 10000, 0},   {padA, 1, 2},          {padA, 0, 0},
+      {stickX, 20000, 205}, {stickY, -24000, 0},  {stickY, -27000, 200}, {crossUp, 1, 0},
+      {stickX, 0, 0},       {stickY, 0, 0},       {padA, 1, 2 + 200},    {padA, 0, 0},
+      {crossUp, 0, 0},      {stickY, 32767, 208}, {stickY, 0, 0},        {stickX, -32768, 203}};
+  for (const auto& [what, value, keys] : moves) EXPECT_EQ(keysBy(what, value), keys) << value;
+  keysBy(stickX, 0);
+  pad->set(stickX, 17000);
+  EXPECT_EQ(keysBy(stickY, -30000), 200) << "both axes at once are one movement";
+}
+
+TEST_F(Pads, WhatIsHeldWhenThePadOrTheFocusGoesMovesNothing) {
+  EXPECT_EQ(keysBy(crossRight, 1), 205);
+  send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
+  EXPECT_TRUE(after(600) == 0 && keysBy(padA, 1) == 0);
+  send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
+  EXPECT_EQ(after(600), 0);
+  EXPECT_TRUE(keysBy(crossUp, 1) == 200 && keysBy(crossUp, 0) == 0) << "others still do";
+  EXPECT_TRUE(keysBy(crossRight, 0) == 0 && keysBy(crossRight, 1) == 205);
+  closeWindow(handle);
+  handle = open();
+  EXPECT_EQ(after(600), 0) << "nor in the next game";
+  EXPECT_TRUE(keysBy(padA, 0) == 0 && keysBy(crossRight, 0) == 0 && keysBy(crossRight, 1) == 205);
+  pad = nullptr;
+  EXPECT_TRUE(padsGone == 1 && !padInUse && after(600) == 0 && !hasGamepad());
+  pad = std::make_unique<VirtualPad>();
+  EXPECT_EQ(keysBy(padStart, 1), 0) << "held since before it came";
+  EXPECT_EQ(keysBy(padA, 1), 2);
+  {
+    const VirtualPad other;
+    letWindowMessagesThrough(0);
+  }
+  EXPECT_TRUE(padsGone == 1 && padInUse) << "the other one is in use";
+  send(SDL_KEYDOWN, SDL_SCANCODE_UP);
+  pad = nullptr;
+  EXPECT_EQ(padsGone, 1) << "the keyboard is in use";
+}
+
+TEST_F(Pads, AWaitEndsWithAPadsRepeatAndLooksAtPadsEveryEightMilliseconds) {
+  for (const u32 end : {500U, 533U, 599U}) {
+    if (end == 500) keysBy(crossUp, 1);
+    const u32 start = fake::clockNow - (end == 500 ? 0 : end == 533 ? 500 : 533);
+    waits.clear(), timesTold = 0;
+    if (end == 599) keysBy(crossUp, 0);
+    letWindowMessagesThrough(start + 599);
+    EXPECT_TRUE(fake::clockNow - start == end && timesTold == (end == 599 ? 0 : 1)) << end;
+    EXPECT_LE(*std::max_element(waits.begin(), waits.end()), 8);
+  }
+  pad = nullptr;
+  waits.clear();
+  letWindowMessagesThrough(fake::clockNow + 25);
+  EXPECT_EQ(waits.size(), 1U) << "without a pad nothing is looked at";
 }
 
 std::vector<u32> standing() {
