@@ -1,10 +1,12 @@
 #include "shell/fcontrols.h"
 
+#include "present/services/gamepad.h"
+
 namespace glonks {
 
 void fControls_Form_Load() {
   setInside(fControls, "the control room", 5400, 5400, fControls_background,
-            ":/forms/controls.png");
+            padInUse ? ":/forms/controls_pad.png" : ":/forms/controls.png");
   fControls.controls = {&fControls_background};
 }
 
