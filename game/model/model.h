@@ -167,7 +167,6 @@ inline Flag gameOver = False;            // ends the play loop at the top of its
 inline Flag inPlay = False;              // a play loop is running, or has raised; set by it
 inline Flag paused = False;              // a pause is in force
 inline i32 lastKeyTick = 0;              // game tick of the last key handled
-inline i32 endAskedUntil = 0;            // game tick until which Back ends the game; 0: not asked
 inline i32 nextPointsTick = 0;           // game tick at which the next time points fall due
 inline i16 pendingSpawns = 0;            // extra pieces queued
 inline Flag frogBonusOn = False;         // reset: False

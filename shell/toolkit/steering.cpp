@@ -71,6 +71,8 @@ bool press(QWidget& widget) {
     button->click();
   } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
     box->showPopup();
+    // Or the first move down would pass over the first row.
+    if (box->currentIndex() < 0) box->view()->setCurrentIndex(box->model()->index(0, 0));
   } else {
     return sendKey(widget, isOneOf<QAbstractItemView>(widget) ? Qt::Key_Space : Qt::Key_Return);
   }

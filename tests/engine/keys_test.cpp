@@ -1,6 +1,7 @@
 #include "present/keys.h"
 #include "present/pause.h"
 #include "present/screen/fconsole.h"
+#include "present/services/gamepad.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
@@ -48,6 +49,22 @@ TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
   const i32 tick = lastKeyTick;
   pauseWith(key("P", 40), {key("P", 40)});
   EXPECT_EQ((Numbers{lastKeyTick, static_cast<i32>(tickBase)}), (Numbers{tick, 5040}));
+}
+
+TEST_F(KeysTest, UnpluggingThePadInUsePausesAGameOnceAndAPauseNamesTheDeviceInUse) {
+  const auto says = [](const std::string& line) {
+    return [=] { EXPECT_PRED2(holds, drawn().at(1), line); };
+  };
+  const auto padGone = [] { fake::windowEvents.padGone(); };
+  fConsole_Show(readKeys, pauseByCloseBox, pauseByLostPad);
+  padGone();  // no game in play
+  inPlay = True;
+  drawn();
+  pauseWith(padGone, {[] {}, says("the P key"), [] { padInUse = true; }, padGone, [] { drawn(); },
+                      says("Press Start to resume"), pauseByCloseBox, key("P")});
+  padInUse = true;
+  pauseWith(pauseByCloseBox,
+            {[] { EXPECT_PRED2(holds, fake::windowTitle, "then Back twice"); }, key("P")});
 }
 
 // Key events come together when the system has been held up.
