@@ -9,30 +9,35 @@ namespace glonks {
 // A gamepad of SDL's, plugged in as long as the object lives.
 class VirtualPad {
  public:
-  VirtualPad() {
+  static constexpr int axis = SDL_CONTROLLER_BUTTON_MAX;
+
+  // `held`: what is moved all the way before it comes, or -1.
+  explicit VirtualPad(int held = -1) {
     readGamepads();  // makes SDL ready
     const int index = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER,
                                                 SDL_CONTROLLER_AXIS_MAX, axis, 0);
-    joystick_ = SDL_JoystickOpen(index);
-    id_ = SDL_JoystickInstanceID(joystick_);
+    id_ = SDL_JoystickGetDeviceInstanceID(index);
+    if (held >= 0) set(held, held < axis ? 1 : 32767);
   }
   ~VirtualPad() {
-    for (int i = 0; i < SDL_NumJoysticks(); ++i) {
-      if (SDL_JoystickGetDeviceInstanceID(i) == id_) SDL_JoystickDetachVirtual(i);
-    }
+    SDL_JoystickDetachVirtual(index());
     readGamepads();
-    SDL_JoystickClose(joystick_);
   }
   // Moves a button, or the axis what - axis.
   void set(int what, int value) const {
-    if (what < axis) SDL_JoystickSetVirtualButton(joystick_, what, static_cast<Uint8>(value));
-    if (what >= axis)
-      SDL_JoystickSetVirtualAxis(joystick_, what - axis, static_cast<Sint16>(value));
+    SDL_Joystick* joystick = SDL_JoystickOpen(index());
+    if (what < axis) SDL_JoystickSetVirtualButton(joystick, what, static_cast<Uint8>(value));
+    if (what >= axis) SDL_JoystickSetVirtualAxis(joystick, what - axis, static_cast<Sint16>(value));
+    SDL_JoystickClose(joystick);
   }
-  static constexpr int axis = SDL_CONTROLLER_BUTTON_MAX;
 
  private:
-  SDL_Joystick* joystick_ = nullptr;
+  int index() const {
+    int i = 0;
+    while (SDL_JoystickGetDeviceInstanceID(i) != id_) ++i;
+    return i;
+  }
+
   SDL_JoystickID id_ = 0;
 };
 

@@ -23,7 +23,6 @@ bool repaintDue = false;  // the window's content has been lost, or its size has
 void loseFocus() {
   focusLost = true;
   releaseAllKeys();
-  forgetPadInput();
 }
 
 void regainFocus() {
@@ -182,7 +181,6 @@ void closeWindow(i32 handle) {
   if (sdlWindowOf(handle) == nullptr) return;
   closeScreen();
   destroySdlWindow();
-  forgetPadInput();
 }
 
 void setWindowState(i32 handle, WindowState state) {

@@ -59,7 +59,6 @@ bool movesWithin(const QWidget& widget, Steer to) {
 bool move(QWidget& widget, Steer to) {
   const bool backwards = to == Steer::up || to == Steer::left;
   if (movesWithin(widget, to)) return sendKey(widget, arrowKeys[static_cast<std::size_t>(to)]);
-  if (QApplication::activePopupWidget() != nullptr) return true;
   return sendKey(widget, backwards ? Qt::Key_Backtab : Qt::Key_Tab);
 }
 

@@ -344,8 +344,12 @@ TEST_F(Pads, WhatIsHeldWhenThePadOrTheFocusGoesMovesNothing) {
   EXPECT_TRUE(keysBy(padA, 0) == 0 && keysBy(crossRight, 0) == 0 && keysBy(crossRight, 1) == 205);
   pad = nullptr;
   EXPECT_TRUE(after(600) == 0 && padsGone == 1 && !padInUse && !hasGamepad());
-  pad = std::make_unique<VirtualPad>();
-  EXPECT_EQ(keysBy(padStart, 1), 0) << "held since before it came";
+  for (const int held : {crossRight, stickX}) {
+    pad = nullptr;
+    pad = std::make_unique<VirtualPad>(held);
+    EXPECT_EQ(after(0), 0) << "held since before it came";
+  }
+  keysBy(stickX, 0);
   EXPECT_EQ(keysBy(padA, 1), 2);
   {
     const VirtualPad other;

@@ -1,5 +1,7 @@
 #include "shell/padmenu.h"
 
+#include <QAbstractItemView>
+
 #include "game/model/model.h"
 #include "present/screen/fconsole.h"
 #include "shell/fcontrols.h"
@@ -57,7 +59,9 @@ class PadMenuTest : public TempFolder {
       if (frame[page].visible == True) text = std::to_string(page) + " ";
     }
     if (const QWidget* popup = QApplication::activePopupWidget()) {
-      return text + (popup->inherits("QMenu") ? "menu" : "open list");
+      if (popup->inherits("QMenu")) return text + "menu";
+      const auto* list = popup->findChild<QAbstractItemView*>();
+      return text + (list->selectionModel()->hasSelection() ? "open list" : "list without a row");
     }
     const QWidget* inFocus = QApplication::focusWidget();
     if (inFocus == nullptr) return text + "nothing";
