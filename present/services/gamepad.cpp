@@ -127,16 +127,12 @@ bool isOpen(SDL_JoystickID id) {
   return std::any_of(pads.begin(), pads.end(), [id](const Pad& pad) { return pad.id == id; });
 }
 
-// What is held on a pad that comes counts as held before.
+// A stick that is held on a pad that comes counts as held before. SDL tells of no button that is.
 void open(int index) {
   Pad pad;
   pad.controller = SDL_GameControllerOpen(index);
   if (pad.controller == nullptr) return;
   pad.id = SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(pad.controller));
-  SDL_GameControllerUpdate();
-  for (const auto& [raw, button] : buttonNames) {
-    pad.down[raw] = SDL_GameControllerGetButton(pad.controller, raw) != 0;
-  }
   pad.stick = stickOf(pad);
   pads.push_back(pad);
   held = buttonsDown();
