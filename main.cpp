@@ -10,6 +10,7 @@
 #include "present/screen/display.h"
 #include "present/screen/fconsole.h"
 #include "shell/ftip.h"
+#include "shell/padmenu.h"
 #include "shell/playbutton.h"
 #include "shell/toolkit/endsignals.h"
 #include "shell/toolkit/folderlock.h"
@@ -76,6 +77,7 @@ int main() {
     setEndHandler(endByTheSystem);
     fTip_Form_Load();
     showForm(fTip);
+    startPadMenu();
     runEvents();
     return 0;
   } catch (const RuntimeError& error) {

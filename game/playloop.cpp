@@ -5,6 +5,7 @@
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "present/effectdrawing.h"
+#include "present/endquestion.h"
 #include "present/fielddrawing.h"
 #include "present/itemdisplay.h"
 #include "present/music.h"
@@ -57,11 +58,12 @@ void payTimePoints() {
   payScore(timePoints);
 }
 
-// A pass's last steps: the song's title and end, the system's messages until something is due
-// again, the pause when the game has lost the screen.
+// A pass's last steps: the song's title and end, whether the game is to end, the system's messages
+// until something is due again, the pause when the game has lost the screen.
 void endPass(Runner run) {
   if (isScreenGone()) return;
   run(showSongLine);
+  run(showEndQuestion);
   run([] { letMessagesThrough(static_cast<u32>(nextDue) + 1 + tickBase); });
   run([] {
     if (dd->TestCooperativeLevel() != 0 && paused == False) togglePause();
@@ -106,6 +108,7 @@ void runLoop(const LoopMode& mode) {
   i32 nextSpawn = gameTickIn(firstSpawnDelay);
   i32 nextFrame = gameTick();
   lastKeyTick = gameTick();
+  endAskedUntil = 0;
   nextPointsTick = gameTickIn(timePointsPeriod);
   pendingSpawns = 0;
   logStep("play - entering main loop");

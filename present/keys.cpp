@@ -3,6 +3,7 @@
 #include "game/model/gametick.h"
 #include "game/model/model.h"
 #include "game/model/resources.h"
+#include "present/endquestion.h"
 #include "present/music.h"
 #include "present/pause.h"
 #include "present/screen/display.h"
@@ -25,7 +26,8 @@ enum ScanCode : i16 {
   keyUp = 200,
   keyLeft = 203,
   keyRight = 205,
-  keyDown = 208
+  keyDown = 208,
+  padBack = padBackCode
 };
 
 constexpr i32 keyGate = 150;  // ms after a key during which others are ignored
@@ -87,6 +89,7 @@ void act(i16 wanted) {
 
 void readKeys() {
   keyboard->GetDeviceStateKeyboard(keyState);
+  if (isDown(padBack)) return askToEnd();
   i16 wanted = noKey;
   for (const ScanCode code : {key1, key2, key3, key4}) {
     if (isDown(code)) wanted = code;

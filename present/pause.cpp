@@ -7,18 +7,26 @@
 #include "present/screen/fconsole.h"
 #include "present/screen/messages.h"
 #include "present/services/bass.h"
+#include "present/services/gamepad.h"
 #include "present/services/window.h"
 
 namespace glonks {
 namespace {
 
-const std::string endingTitle = "Glonks is paused: press P to go on, then Escape to end the game";
+// What a pause tells, by the names of keys or those of a gamepad.
+const char* resumeLine() {
+  return padInUse ? "Paused...  Press Start to resume." : "Paused...  Press the P key to resume.";
+}
+const char* endingTitle() {
+  return padInUse ? "Glonks is paused: press Start to go on, then Back twice to end the game"
+                  : "Glonks is paused: press P to go on, then Escape to end the game";
+}
 
 void showPause() {
   constexpr i32 textX = 10;
   constexpr i32 textY = 20;
   backBuffer->BltColorFill({}, RGB(0, 0, 0));
-  backBuffer->DrawText(textX, textY, "Paused...  Press the P key to resume.", False);
+  backBuffer->DrawText(textX, textY, resumeLine(), False);
   primarySurface->Flip(nullptr, flipWait);
 }
 
@@ -85,8 +93,12 @@ void togglePause() {
 
 void pauseByCloseBox() {
   if (inPlay == False) return;
-  setWindowTitle(fConsole.hWnd, endingTitle);
+  setWindowTitle(fConsole.hWnd, endingTitle());
   if (paused == False) pause();
+}
+
+void pauseByLostPad() {
+  if (inPlay == True && paused == False) pause();
 }
 
 }  // namespace glonks

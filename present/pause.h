@@ -11,4 +11,7 @@ void togglePause();
 // the window's title how to end it, until the pause is over. Does nothing while no loop is running.
 void pauseByCloseBox();
 
+// What unplugging the gamepad in use does: pauses the game, if one is in play and isn't paused.
+void pauseByLostPad();
+
 }  // namespace glonks

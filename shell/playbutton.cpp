@@ -119,7 +119,7 @@ void main_BtnRun_Click() {
   if (!levelReadable()) return;
   hideForm(fMain);
   gameOver = False;  // so that fConsole can't be closed while the game is being loaded
-  fConsole_Show(readKeys, pauseByCloseBox);
+  fConsole_Show(readKeys, pauseByCloseBox, pauseByLostPad);
   owe(storeFile);  // from now on credits and goods may change
   initDX();
   loadGame(loadLoadingPicture());

@@ -1,10 +1,11 @@
 """The pictures that fill the small windows beside the main one, in logical pixels."""
 import math
 import random
+from functools import partial
 from . import creatures, pieces
 from .parts import DIM, GLONKS, INK, RIM, crowd, ground, head, plate, slope, stand, well, words
 from .screens import AMBER, logo
-from .shapes import box, fill, line, polygon, rgb, sloped, stroke
+from .shapes import box, circle, fill, line, polygon, rgb, sloped, stroke
 
 
 def tip():
@@ -93,13 +94,50 @@ KEY_LINES = (((("", 0), ("", 2)), "Move the pointer from row to row"),
              ((("N", None),), "Another song"),
              ((("Esc", None),), "End the game"),
              ((("Alt", None), ("Enter", None)), "Whole screen or window"))
+PAD_COLOURS = {"A": "3f9b4a", "B": "b9443c", "X": "3a6fc0", "Y": "c79a2b"}
+
+
+def pad_button(ctx, x, y, name):
+    """A button of a gamepad in a space 27 wide: a round one with its letter, the cross, or one with its name."""
+    if name in PAD_COLOURS:
+        fill(ctx, circle(x + 13.5, y + 13, 11), rgb("05070d"))
+        sloped(ctx, circle(x + 13.5, y + 12, 11), rgb("38415a"), rgb("1d2437"), .8, rgb("0a0f1c"), diagonal=False)
+        fill(ctx, circle(x + 13.5, y + 11.5, 8.6), rgb(PAD_COLOURS[name]))
+        words(ctx, name, x + 13.5, y + 15.7, 11.5, rgb("f3f6ff"), True, True)
+    elif name in ("|", "-"):
+        # The cross, with arrows on two of its arms.
+        arms = [box(x + 9.5, y + 1, 8, 23, 2), box(x + 2, y + 8.5, 23, 8, 2)]
+        for arm in arms:
+            fill(ctx, arm, rgb("222c46"))
+            stroke(ctx, arm, rgb("0a0f1c"), .8)
+        for arm in arms:
+            fill(ctx, arm, rgb("3b496f"))
+        for turn in ((0, 2) if name == "|" else (1, 3)):
+            ctx.save()
+            ctx.translate(x + 13.5, y + 12.5)
+            ctx.rotate(turn * math.pi / 2)
+            fill(ctx, polygon([(0, -10.4), (3, -5.4), (-3, -5.4)], .6), rgb("f3f6ff"))
+            ctx.restore()
+    else:
+        width = 14 + 5.6 * len(name)
+        x += 13.5 - width / 2
+        fill(ctx, box(x, y + 4, width, 18, 9), rgb("05070d"))
+        sloped(ctx, box(x, y + 3, width, 18, 9), rgb("4b5b80"), rgb("222c46"), .8, rgb("0a0f1c"), diagonal=False)
+        words(ctx, name, x + width / 2, y + 15.6, 9.5, rgb("f3f6ff"), True, True)
+
+
+PAD_TEXTS = {0: "Move the pointer (or the stick)", 1: "Slide the row", 2: "Drop a Slammer", 4: "Set off all Bombs",
+             8: "End the game (press Back twice)"}
+PAD_NAMES = ("|", "-", "A", "B", "X", "Y", "Start", "L, R", "Back")
+
 KEY_ICONS = {2: pieces.slammer, 3: pieces.bomb, 4: pieces.detonator, 5: pieces.bowling_ball, 7: pieces.music}
 
 
-def controls():
+def controls(pad=False):
+    """A chart of the keys; with `pad`, a gamepad's buttons stand beside them."""
     canvas = ground(360, 360, 24, light=(90, 20))
     ctx = canvas.ctx
-    head(ctx, "The Keys", 20, 10)
+    head(ctx, "Keys and Pad" if pad else "The Keys", 20, 10)
     for i in range(4):
         stand(ctx, i, 218 + i * 31, 44, 30)
     sloped(ctx, box(14, 44, 332, 304, 5), rgb("0c111f"), rgb("101729"), .7, RIM)
@@ -112,10 +150,12 @@ def controls():
             width = {"Enter": 40, "Alt": 32, "Esc": 32}.get(name, 27)
             key_cap(ctx, x, y, width, name, turn)
             x += width + 5
-        words(ctx, text, 112, y + 16.5, 12.5)
+        if pad and i < len(PAD_NAMES):
+            pad_button(ctx, 103, y, PAD_NAMES[i])
+        words(ctx, PAD_TEXTS.get(i, text) if pad else text, 156 if pad else 112, y + 16.5, 11 if pad else 12.5)
         if i in KEY_ICONS:
             pieces.place(ctx, KEY_ICONS[i], 312, y, 25)
     return canvas.indexed()
 
 
-WINDOWS = {"tip": tip, "about": about, "specimens": specimens, "controls": controls}
+WINDOWS = {"tip": tip, "about": about, "specimens": specimens, "controls": controls, "controls_pad": partial(controls, True)}

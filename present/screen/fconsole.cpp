@@ -15,9 +15,9 @@ void clickCloseBox() {
 
 }  // namespace
 
-void fConsole_Show(void (*keyDown)(), void (*closeAsked)()) {
+void fConsole_Show(void (*keyDown)(), void (*closeAsked)(), void (*padGone)()) {
   closeRefused = closeAsked;
-  fConsole.hWnd = openWindow(fConsole.caption, {keyDown, clickCloseBox});
+  fConsole.hWnd = openWindow(fConsole.caption, {keyDown, clickCloseBox, padGone});
 }
 
 void fConsole_Form_Unload(i16& cancel) {

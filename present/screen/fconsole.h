@@ -14,8 +14,8 @@ struct ConsoleForm {
 inline ConsoleForm fConsole;
 
 // Loads and shows the form. `keyDown` runs at each key event that it gets, `closeAsked` when its
-// close box is clicked and it can't be closed.
-void fConsole_Show(void (*keyDown)(), void (*closeAsked)());
+// close box is clicked and it can't be closed, `padGone` when the gamepad in use is unplugged.
+void fConsole_Show(void (*keyDown)(), void (*closeAsked)(), void (*padGone)() = nullptr);
 
 // Sets `cancel` to 1 while a game runs or is paused: the form can't be closed then.
 void fConsole_Form_Unload(i16& cancel);

@@ -20,7 +20,7 @@ void DirectInputDevice::GetDeviceStateKeyboard(KeyState& state) const {
     throw RuntimeError(ErrorNumber::serviceFailed,
                        "GetDeviceStateKeyboard: the keyboard isn't acquired.");
   }
-  state = keyTable();
+  state = takeKeys();
 }
 
 std::shared_ptr<DirectInputDevice> DirectInput::CreateDevice(const std::string& guid) {

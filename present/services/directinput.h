@@ -6,7 +6,7 @@
 #include "base/types.h"
 #include "present/services/keyboardstate.h"
 
-// Keyboard and mouse of the game's window.
+// Keyboard and mouse of the game's window. What gamepads do counts as keys.
 namespace glonks {
 
 class DirectInputDevice {
@@ -16,8 +16,9 @@ class DirectInputDevice {
   // `flags` 0xA: not exclusive, in the background too.
   void SetCooperativeLevel(i32 hWnd, i32 flags);
   void Acquire();
-  // The keys as they stand at the message that is being handled. Losing the focus releases all
-  // keys. Raises serviceFailed on a device that wasn't acquired.
+  // The keys as they stand at the message that is being handled; one that can't be held is down for
+  // one call. Losing the focus releases all keys. Raises serviceFailed on a device that wasn't
+  // acquired.
   void GetDeviceStateKeyboard(KeyState& state) const;
 
  private:

@@ -8,7 +8,11 @@
 namespace glonks {
 namespace {
 
+constexpr unsigned char down = 0x80;
+
 KeyState keys = {};
+KeyState padKeys = {};
+KeyState taps = {};
 std::array<bool, SDL_NUM_SCANCODES> muted = {};
 
 // The physical keys and their DirectInput scan codes.
@@ -53,10 +57,13 @@ void setKey(i32 key, unsigned char state) {
 
 }  // namespace
 
-const KeyState& keyTable() { return keys; }
+KeyState takeKeys() {
+  KeyState all = std::exchange(taps, {});
+  for (std::size_t i = 0; i < all.size(); ++i) all[i] |= keys[i] | padKeys[i];
+  return all;
+}
 
 bool pressKey(i32 key) {
-  constexpr unsigned char down = 0x80;
   if (muted[static_cast<std::size_t>(key)]) return false;
   setKey(key, down);
   return true;
@@ -67,7 +74,11 @@ void releaseKey(i32 key) {
   muted[static_cast<std::size_t>(key)] = false;
 }
 
-void releaseAllKeys() { keys.fill(0); }
+void holdPadKey(unsigned char scanCode, bool isDown) { padKeys[scanCode] = isDown ? down : 0; }
+
+void tapKey(unsigned char scanCode) { taps[scanCode] = down; }
+
+void releaseAllKeys() { keys = padKeys = taps = {}; }
 
 void muteHeldKeys() {
   int count = 0;

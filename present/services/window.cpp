@@ -6,6 +6,7 @@
 
 #include "base/clock.h"
 #include "present/services/audiodevice.h"
+#include "present/services/gamepad.h"
 #include "present/services/keyboardstate.h"
 #include "present/services/screen.h"
 #include "present/services/sdlwindow.h"
@@ -28,6 +29,7 @@ void regainFocus() {
   focusLost = false;
   minimised = false;
   muteHeldKeys();
+  forgetPadInput();
 }
 
 void handleKeyDown(const SDL_KeyboardEvent& event) {
@@ -37,7 +39,51 @@ void handleKeyDown(const SDL_KeyboardEvent& event) {
     return;
   }
   if (focusLost || !pressKey(code)) return;
+  padInUse = false;
   handlers.keyDown();
+}
+
+// The key that a pad's button stands for.
+unsigned char keyOf(PadButton button) {
+  constexpr unsigned char codes[] = {200, 208, 203, 205, 2, 3, 4, 5, 25, padBackCode, 49};
+  return codes[static_cast<std::size_t>(button)];
+}
+
+// The last three are taps: held, they would act again at each event of another key.
+void handlePadPress(PadButton button) {
+  if (focusLost) return;
+  if (button < PadButton::start) {
+    holdPadKey(keyOf(button), true);
+  } else {
+    tapKey(keyOf(button));
+  }
+  handlers.keyDown();
+}
+
+void handlePadChange(const PadChange& change) {
+  switch (change.kind) {
+    case PadChange::Kind::pressed:
+    case PadChange::Kind::repeated:
+      handlePadPress(change.button);
+      break;
+    case PadChange::Kind::released:
+      holdPadKey(keyOf(change.button), false);
+      break;
+    case PadChange::Kind::gone:
+      if (handlers.padGone != nullptr) handlers.padGone();
+      break;
+  }
+}
+
+// True if a pad has done anything.
+bool handlePads() {
+  readGamepads();
+  bool any = false;
+  while (const auto change = nextPadChange()) {
+    any = true;
+    handlePadChange(*change);
+  }
+  return any;
 }
 
 void handleWindowEvent(const SDL_WindowEvent& event) {
@@ -89,7 +135,7 @@ void handle(const SDL_Event& event) {
 
 // True if anything was waiting.
 bool handleWaiting() {
-  bool any = false;
+  bool any = handlePads();
   for (SDL_Event event; SDL_PollEvent(&event) != 0;) {
     any = true;
     handle(event);
@@ -101,17 +147,19 @@ bool handleWaiting() {
 
 // SDL's wait ends as far into a millisecond as it has begun. A frame that took long begins the wait
 // late in one; the last millisecond is then for the clock, so that the next frame isn't later
-// still. That costs a second awakening, which the usual short frames go without.
-void waitForMessage(u32 until) {
+// still. That costs a second awakening, which the usual short frames go without. True if a message
+// was handled.
+bool waitForMessage(u32 until) {
   constexpr u32 longFrame = 2;  // ms
   const u32 now = GetTickCount();
   const bool toTheTick = now - lastWait >= longFrame;
   const i32 wait = static_cast<i32>(until - now) - (toTheTick ? 1 : 0);
   if (wait > 0 && SDL_WaitEventTimeout(nullptr, wait) != 0) {
     handleWaiting();
-  } else if (toTheTick) {
-    sleepUntilTick(until);
+    return true;
   }
+  if (toTheTick) sleepUntilTick(until);
+  return false;
 }
 
 }  // namespace
@@ -124,6 +172,7 @@ i32 openWindow(const std::string& caption, const WindowEvents& events) {
   minimised = false;
   repaintDue = false;
   forgetKeys();
+  forgetPadInput();
   SDL_RaiseWindow(sdlWindow);
   return handle;
 }
@@ -149,8 +198,12 @@ void setWindowTitle(i32 handle, const std::string& title) {
 
 void letWindowMessagesThrough(u32 until) {
   if (sdlWindow == nullptr || handleWaiting()) return;
-  waitForMessage(until);
-  lastWait = GetTickCount();
+  while (true) {
+    const u32 end = nextPadLook(until);
+    const bool handled = waitForMessage(end);
+    lastWait = GetTickCount();
+    if (handled || end == until || handlePads()) return;
+  }
 }
 
 bool screenLost() { return focusLost || minimised; }

@@ -6,11 +6,13 @@
 #include <tuple>
 
 #include "game/modes.h"
+#include "present/endquestion.h"
 #include "present/keys.h"
 #include "present/music.h"
 #include "present/pause.h"
 #include "present/screen/fconsole.h"
 #include "present/services/bass.h"
+#include "present/services/gamepad.h"
 #include "shell/menucontrols.h"
 #include "storage/files/log.h"
 #include "storage/files/scrambledfiles.h"
@@ -33,7 +35,8 @@
   themeName, gameMode, musicStream, dx, dd, primarySurface, backBuffer, gameFont, di, keyboard,  \
       mouse, ds, colorKey, sampleDesc, sampleFormat, screenWidth, screenHeight, fConsole, tMode, \
       tLevels, fake::clockNow, fake::nextSeed, fake::draws, fake::generator, fake::shown,        \
-      fake::seen, fake::heard, fake::drawn, fake::onPicture, gameItem, bowlingRolls, songs
+      fake::seen, fake::heard, fake::drawn, fake::onPicture, gameItem, bowlingRolls, songs,      \
+      padInUse, endAskedUntil
 #define STRING_OF(...) #__VA_ARGS__
 #define NAMES_OF(list) STRING_OF(list)
 
@@ -179,8 +182,9 @@ std::string fallingText(const Piece& piece) {
 }
 
 const std::map<std::string, i32> keyCodes = {
-    {"Escape", 1}, {"1", 2},      {"2", 3},    {"3", 4},      {"4", 5},       {"P", 25},
-    {"N", 49},     {"Space", 57}, {"Up", 200}, {"Left", 203}, {"Right", 205}, {"Down", 208}};
+    {"Escape", 1}, {"1", 2},       {"2", 3},      {"3", 4},       {"4", 5},
+    {"P", 25},     {"N", 49},      {"Space", 57}, {"Back", 0xE0}, {"Up", 200},
+    {"Left", 203}, {"Right", 205}, {"Down", 208}};
 
 Words split(const std::string& all, char between) {
   Words parts;

@@ -1,6 +1,7 @@
 #include "present/keys.h"
 #include "present/pause.h"
 #include "present/screen/fconsole.h"
+#include "present/services/gamepad.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
@@ -48,6 +49,20 @@ TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
   const i32 tick = lastKeyTick;
   pauseWith(key("P", 40), {key("P", 40)});
   EXPECT_EQ((Numbers{lastKeyTick, static_cast<i32>(tickBase)}), (Numbers{tick, 5040}));
+}
+
+TEST_F(KeysTest, UnpluggingThePadInUsePausesAGameOnceAndAPauseNamesTheDeviceInUse) {
+  const auto says = [](std::string line) {
+    return [=] { EXPECT_EQ(drawn().at(1), line + " to resume. at 10,20"); };
+  };
+  pauseByLostPad();  // no game in play
+  inPlay = True;
+  drawn();
+  pauseWith(pauseByLostPad,
+            {[] {}, says("Paused...  Press the P key"), [] { padInUse = true; }, pauseByLostPad,
+             [] { drawn(); }, says("Paused...  Press Start"), pauseByCloseBox, key("P")});
+  const auto told = [] { EXPECT_PRED2(holds, fake::windowTitle, "then Back twice"); };
+  pauseWith(pauseByCloseBox, {told, key("P")});
 }
 
 // Key events come together when the system has been held up.

@@ -4,6 +4,7 @@
 #include "present/effects/applause.h"
 #include "present/effects/effects.h"
 #include "present/effects/ticker.h"
+#include "present/endquestion.h"
 #include "present/goaldisplay.h"
 #include "present/itemdisplay.h"
 #include "present/scoresheet.h"
@@ -62,6 +63,7 @@ class RulesTest : public EngineTest {
         {"applaud", [](const Words&) { applause(); }},
         {"popup", [](const Words& words) { pushPopup(0, number(words[0]), std::stoi(words[1])); }},
         {"popups", [](const Words&) { drawPopups(), noteDrawn(); }},
+        {"question", [](const Words&) { showEndQuestion(), noteDrawn(); }},
         {"goals", [](const Words&) { drawGoals(), noteDrawn(); }},
         {"counters",
          [](const Words& mode) {

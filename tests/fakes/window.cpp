@@ -32,6 +32,6 @@ void showPicture(const ShownPicture& picture) {
   ++fake::picturesShown;
   if (fake::pictureShown) fake::pictureShown(*picture.raster);
 }
-const KeyState& keyTable() { return fake::keys; }
+KeyState takeKeys() { return fake::keys; }
 
 }  // namespace glonks

@@ -10,10 +10,19 @@
 #include "present/services/window.h"
 #include "tests/fakes/clock.h"
 #include "tests/tempfolder.h"
+#include "tests/virtualpad.h"
 
 // In the place of SDL's own, which does nothing here.
 static int timesMaximised = 0;
 extern "C" void SDL_MaximizeWindow(SDL_Window* /*window*/) { ++timesMaximised; }
+
+// A wait in which nothing comes.
+static std::vector<int> waits;
+extern "C" int SDL_WaitEventTimeout(SDL_Event* /*event*/, int timeout) {
+  waits.push_back(timeout);
+  glonks::fake::clockNow += static_cast<unsigned>(timeout);
+  return 0;
+}
 
 namespace glonks {
 namespace {
@@ -193,18 +202,21 @@ TEST_F(Files, PngsAreTakenForBitmapsAtTwiceTheSizeWithWhatTheySayOfSeeingThrough
 }
 
 i32 told = 0;  // the keys that were down when the game was last told of one; -1: asked to close
+i32 timesTold = 0;
+i32 padsGone = 0;
 
 // The scan codes of all keys that are down, added up.
 void noteKeys() {
-  told = 0;
-  for (i32 code = 0; code < 256; ++code) told += keyTable()[code] != 0 ? code : 0;
+  told = 0, ++timesTold;
+  const KeyState keys = takeKeys();
+  for (i32 code = 0; code < 256; ++code) told += keys[code] != 0 ? code : 0;
 }
 
 struct Window : ::testing::Test {
   ~Window() override { closeWindow(handle); }
   static i32 open() {
     setenv("SDL_VIDEODRIVER", "dummy", 1);
-    return openWindow("Glonks", {noteKeys, [] { told = -1; }});
+    return openWindow("Glonks", {noteKeys, [] { told = -1; }, [] { ++padsGone; }});
   }
   // What the game is told of an event, of a key that is held so long that it repeats itself or of
   // the window.
@@ -253,6 +265,91 @@ TEST_F(Window, HearsKeysByTheirScanCodesUntilItLosesTheFocus) {
   }
   EXPECT_EQ(told, 1 + 2 + 3 + 4 + 5 + 49 + 200 + 205 + 208);
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+struct Pads : Window {
+  // How often the game is told of keys after some ms.
+  static i32 after(u32 ms) {
+    fake::clockNow += ms;
+    timesTold = 0;
+    letWindowMessagesThrough(0);
+    return timesTold;
+  }
+  // The keys that it is told of, added up; 0 if of none, -1 if more than once.
+  i32 keysBy(int what, int value) const {
+    told = 0;
+    pad->set(what, value);
+    return after(0) > 1 ? -1 : told;
+  }
+  Pads() { after(0), padsGone = 0; }
+  std::unique_ptr<VirtualPad> pad = std::make_unique<VirtualPad>();
+};
+
+constexpr int padA = SDL_CONTROLLER_BUTTON_A, crossUp = SDL_CONTROLLER_BUTTON_DPAD_UP,
+              crossRight = SDL_CONTROLLER_BUTTON_DPAD_RIGHT,
+              stickX = VirtualPad::axis + SDL_CONTROLLER_AXIS_LEFTX,
+              stickY = VirtualPad::axis + SDL_CONTROLLER_AXIS_LEFTY;
+
+TEST_F(Pads, ButtonsAreKeysOfWhichDirectionsAndItemsRepeatThemselves) {
+  // In SDL's order, from A to the right of the cross.
+  int button = 0;
+  for (const i32 code : {2, 3, 4, 5, 0xE0, 0, 25, 0, 0, 49, 49, 200, 208, 203, 205}) {
+    const i32 repeats = code == 0xE0 || code == 25 || code == 49 || code == 0 ? 0 : 1;
+    EXPECT_TRUE(keysBy(button, 1) == code && after(499) == 0 && after(1) == repeats &&
+                after(32) == 0 && after(1) == repeats);
+    const i32 other = button == padA ? crossRight : padA;
+    // A key that doesn't repeat itself isn't down any more either, or a held Start would go on.
+    EXPECT_EQ(keysBy(other, 1), (other == padA ? 2 : 205) + code * repeats) << code;
+    EXPECT_TRUE(keysBy(button++, 0) == 0 && after(500) == 1) << "the last one repeats itself";
+    EXPECT_TRUE(keysBy(other, 0) == 0 && after(900) == 0) << code;
+  }
+}
+
+TEST_F(Pads, TheStickLeansToItsStrongerAxisUntilItComesBackAGoodWay) {
+  const std::tuple<int, int, i32> moves[] = {
+      {stickX, 15000, 0},   {stickX, 17000, 205}, {stickX, 12000, 0},    {padA, 1, 2 + 205},
+      {padA, 0, 0},         {stickX, 10000, 0},   {padA, 1, 2},          {padA, 0, 0},
+      {stickX, 20000, 205}, {stickY, -24000, 0},  {stickY, -27000, 200}, {crossUp, 1, 0},
+      {stickX, 0, 0},       {stickY, 0, 0},       {padA, 1, 2 + 200},    {padA, 0, 0},
+      {crossUp, 0, 0},      {stickY, 32767, 208}, {stickY, 0, 0},        {stickX, -32768, 203}};
+  for (const auto& [what, value, keys] : moves) EXPECT_EQ(keysBy(what, value), keys) << value;
+  pad->set(stickX, 17000);
+  EXPECT_EQ(keysBy(stickY, -30000), 200) << "both axes at once are one movement";
+}
+
+TEST_F(Pads, WhatIsHeldWhenAPadOrTheFocusComesOrGoesMovesNothing) {
+  EXPECT_EQ(keysBy(crossRight, 1), 205);
+  send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
+  EXPECT_TRUE(after(600) == 0 && keysBy(padA, 1) == 0);
+  send(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
+  EXPECT_TRUE(after(600) == 0 && keysBy(crossUp, 1) == 200 && keysBy(crossRight, 0) == 0);
+  closeWindow(handle);
+  handle = open();
+  EXPECT_TRUE(after(600) == 0 && keysBy(crossRight, 1) == 205) << "nor in the next game";
+  pad = nullptr;
+  EXPECT_TRUE(after(600) == 0 && std::exchange(padsGone, 0) == 1 && !padInUse && !hasGamepad());
+  pad = std::make_unique<VirtualPad>();
+  EXPECT_EQ(keysBy(stickX, 32767), 0) << "held since before it came";
+  EXPECT_TRUE(keysBy(stickX, 0) == 0 && keysBy(padA, 1) == 2);
+  std::make_unique<VirtualPad>().reset();
+  EXPECT_TRUE(after(0) == 0 && padsGone == 0 && padInUse) << "the other one is in use";
+  send(SDL_KEYDOWN, SDL_SCANCODE_UP);
+  pad = nullptr;
+  EXPECT_TRUE(after(0) == 0 && padsGone == 0) << "the keyboard is in use";
+}
+
+TEST_F(Pads, AWaitEndsWithAPadsRepeatAndLooksAtPadsEveryEightMilliseconds) {
+  keysBy(crossUp, 1);
+  for (const u32 wait : {500U, 33U}) {
+    const u32 due = fake::clockNow + wait;
+    waits.clear(), timesTold = 0;
+    letWindowMessagesThrough(due + 400);
+    EXPECT_TRUE(fake::clockNow == due && timesTold == 1 && std::ranges::max(waits) <= 8) << wait;
+  }
+  pad = nullptr;
+  after(0), waits.clear();
+  letWindowMessagesThrough(fake::clockNow + 25);
+  EXPECT_EQ(waits.size(), 1U) << "without a pad";
 }
 
 std::vector<u32> standing() {

@@ -1,5 +1,6 @@
 #include "shell/fmain.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QDesktopServices>
 #include <QListWidget>
@@ -7,13 +8,16 @@
 #include <QTextBrowser>
 
 #include "game/model/model.h"
+#include "present/screen/fconsole.h"
 #include "shell/backgroundspage.h"
 #include "shell/bandspage.h"
+#include "shell/fcontrols.h"
 #include "shell/fpieces.h"
 #include "shell/ftip.h"
 #include "shell/menucontrols.h"
 #include "shell/musicpage.h"
 #include "shell/newgamepage.h"
+#include "shell/padmenu.h"
 #include "shell/playbutton.h"
 #include "shell/scorespage.h"
 #include "shell/storepage.h"
@@ -25,6 +29,7 @@
 #include "tests/fakes/window.h"
 #include "tests/shell/later.h"
 #include "tests/tempfolder.h"
+#include "tests/virtualpad.h"
 
 namespace glonks {
 namespace {
@@ -387,6 +392,102 @@ TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {
     EXPECT_EQ(holds(bytesOf("\\log.txt"), "LOG CLOSED ON 01/02/03 AT 04:05:06\r\n"), closed);
     loadStore();
     EXPECT_EQ(musicVolume, closed ? 30 : 70);
+  }
+}
+
+// The same by gamepad alone. Buttons are letters: "u", "d", "l", "r" for the cross.
+class PadMenuTest : public MainWindowTest {
+ protected:
+  PadMenuTest() {
+    QApplication::setActiveWindow(window);
+    fConsole.hWnd = 0;
+    setListIndex(tMode, -1);
+    servePads(True);
+  }
+  void hold(char button, bool down, u32 later = 0) const {
+    fake::clockNow += later;
+    pad.set(static_cast<int>(std::string("AB....S....udlr").find(button)), down ? 1 : 0);
+    servePads(False);
+    letFormMessagesThrough();  // a menu's entry runs when the menu has gone
+  }
+  void tap(const std::string& buttons) const {
+    for (const char button : buttons) hold(button, true), hold(button, false);
+  }
+  // The page in front, what a key would go to, and what is chosen.
+  static std::string where() {
+    std::size_t page = frame.size() - 1;
+    while (frame[page].visible == False) --page;
+    const QWidget* popup = QApplication::activePopupWidget();
+    const QWidget& at = popup != nullptr ? *popup : *QApplication::focusWidget();
+    const QString name = at.accessibleName();
+    return std::to_string(page) + " " +
+           (name.isEmpty() ? at.metaObject()->className() : name.toStdString()) + " " +
+           textOf(tMode) + std::to_string(musicVolume);
+  }
+  VirtualPad pad;
+};
+
+TEST_F(PadMenuTest, CrossMovesAPressesBGoesBackAndStartOpensTheMenuBar) {
+  const QString steps =
+      "B 7 Start 70;A 0 Mode 70;A 0 QComboBoxPrivateContainer 70;"
+      "ulr 0 QComboBoxPrivateContainer 70;B 0 Mode 70;"
+      "AA 0 Mode Freestyle70;AdA 0 Mode Arcade70;du 0 Mode Arcade70;"
+      "rd 0 Level Arcade70;r 0 Play Arcade70;d 0 Mode Arcade70;"
+      "ldlu 0 Level Arcade70;S 0 QMenu Arcade70;rB 0 Level Arcade70;"
+      "SdS 0 Level Arcade70;SrA 3 Buy a Slammer Arcade70;ddlu 3 Buy a Slammer Arcade70;"
+      "B 0 Mode Arcade70;SruA 5 Volume Arcade70;rrl 5 Volume Arcade71;"
+      "u 5 Songs Arcade71;B 0 Mode Arcade71";
+  for (const QString& step : steps.split(';')) {
+    tap(step.section(' ', 0, 0).toStdString());
+    EXPECT_EQ(where(), step.section(' ', 1).toStdString()) << step.toStdString();
+  }
+  EXPECT_EQ(tLevels.listIndex, 0);
+  fConsole.hWnd = 1;
+  tap("r");
+  EXPECT_EQ(where(), "0 Mode Arcade71") << "a game has the pads for itself";
+}
+
+TEST_F(PadMenuTest, HeldDirectionsRepeatThemselvesAndNothingElseDoes) {
+  tap("ASruAd");
+  hold('d', true);
+  for (const auto& [ms, row] : {std::pair{499U, 0}, {1U, 1}, {33U, 2}, {33U, 3}}) {
+    hold('d', true, ms);
+    EXPECT_EQ(songs.listIndex, row) << ms;
+  }
+  servePads(True);
+  hold('d', true, 600);
+  EXPECT_EQ(songs.listIndex, 3) << "held since before the window became active";
+  tap("B"), hold('A', true), hold('A', true, 600);
+  const QWidget* popup = QApplication::activePopupWidget();
+  ASSERT_NE(popup, nullptr) << "a second press would choose";
+  EXPECT_TRUE(popup->findChild<QAbstractItemView*>()->selectionModel()->hasSelection());
+}
+
+TEST_F(PadMenuTest, AnswersBoxesAndLeavesSideWindows) {
+  const auto answeredBy = [this](const std::string& buttons, auto ask) {
+    later([=, this] {
+      if (QLineEdit* line = QApplication::activeModalWidget()->findChild<QLineEdit*>())
+        line->setText("Zo");
+      hold('A', false, 1000), tap(buttons);
+    });
+    return ask();
+  };
+  tap("Al");
+  answeredBy("A", [this] { hold('A', true); });  // asks for a mode
+  for (const auto& [buttons, name, yes] : {std::tuple{"A", "Zo", True},
+                                           {"ddA", "", True},
+                                           {"dlA", "Zo", True},
+                                           {"lA", "", False},
+                                           {"B", "", False}}) {
+    EXPECT_EQ(answeredBy(buttons, [] { return inputBox("Name?", 20); }), name) << buttons;
+    EXPECT_EQ(answeredBy(buttons, [] { return yesNoBox("Yes?"); }), yes) << buttons;
+  }
+  for (const bool byPad : {true, false}) {
+    QApplication::setActiveWindow(window);  // no window manager does it here
+    tap("SluA");
+    if (!byPad) padInUse = false, fControls_Form_Load();
+    EXPECT_EQ(holds(fControls_background.picture, "controls_pad"), byPad);
+    EXPECT_TRUE(shownWindow("the control room") && (tap("B"), !shownWindow("the control room")));
   }
 }
 
