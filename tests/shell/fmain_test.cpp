@@ -412,13 +412,13 @@ TEST_F(PadMenuTest, CrossMovesAPressesBGoesBackAndStartOpensTheMenuBar) {
 TEST_F(PadMenuTest, HeldDirectionsRepeatThemselvesAndNothingElseDoes) {
   tap("ASruAd");
   hold('d', true);
-  for (const auto& [ms, row] : {std::pair{499U, 0}, {1U, 1}, {33U, 2}, {33U, 3}}) {
+  for (const auto& [ms, row] : {std::pair{499U, 0}, {1U, 1}, {33U, 2}}) {
     hold('d', true, ms);
     EXPECT_EQ(songs.listIndex, row) << ms;
   }
   servePads(True);
   hold('d', true, 600);
-  EXPECT_EQ(songs.listIndex, 3) << "held since before the window became active";
+  EXPECT_EQ(songs.listIndex, 2) << "held since before the window became active";
   tap("B"), hold('A', true), hold('A', true, 600);
   const QWidget* popup = QApplication::activePopupWidget();
   ASSERT_NE(popup, nullptr) << "a second press would choose";
