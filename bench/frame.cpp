@@ -35,6 +35,8 @@
 // made plainly with SDL, and with a QPainter on a QImage. bench_frame [--benchmark...] <game
 // folder>
 //
+// Ours redraws only what differs from the frame before; "anew" makes it redraw everything.
+//
 // The plain frame: black, the plate stretched, the frame picture keyed, 70 pieces keyed, the
 // pointer, and three texts (score, level title, song). With effects, as when much goes off at once:
 // frogs behind the frame picture, and after the pointer counters, impacts, zaps, popups and the
@@ -200,8 +202,9 @@ void setScale(const benchmark::State& state) {
   backBuffer->SetFont({"Times New Roman", 12});
 }
 
-void composeBoard() {
-  clearBack();
+// On a ground of another colour nothing is as it was in the frame before.
+void composeBoard(i32 ground = 0) {
+  backBuffer->BltColorFill({}, ground);
   layPlate();
   layFrame();
   drawField();
@@ -212,6 +215,16 @@ void composeOurs(benchmark::State& state) {
   setScale(state);
   for (auto _ : state) {
     composeBoard();
+    drawLines();
+    benchmark::DoNotOptimize(backBuffer->raster()->pixels.data());
+  }
+}
+
+void composeOursAnew(benchmark::State& state) {
+  setScale(state);
+  i32 number = 0;
+  for (auto _ : state) {
+    composeBoard(++number % 2);
     drawLines();
     benchmark::DoNotOptimize(backBuffer->raster()->pixels.data());
   }
@@ -539,6 +552,7 @@ void atEachScale(benchmark::internal::Benchmark* benchmark) {
 }
 
 BENCHMARK(composeOurs)->Apply(atEachScale);
+BENCHMARK(composeOursAnew)->Apply(atEachScale);
 BENCHMARK(composeSdl)->Apply(atEachScale);
 BENCHMARK(composeQt)->Apply(atEachScale);
 BENCHMARK(composeOursEffects)->Apply(atEachScale);
