@@ -9,6 +9,7 @@
 
 #include "base/errors.h"
 #include "base/paths.h"
+#include "storage/files/scrambledfiles.h"
 
 namespace glonks {
 
@@ -61,6 +62,11 @@ inline std::string bytesOf(const std::string& path) {
 }
 inline void putBytes(const std::string& path, const std::string& bytes) {
   std::ofstream(nativePath(path), std::ios::binary) << bytes;
+}
+// A data file, by its plain bytes.
+inline void putScrambled(const std::string& path, const std::string& plain) {
+  putBytes("\\plain", plain);
+  scrambleFile("\\plain", path);
 }
 inline bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
 

@@ -23,7 +23,6 @@
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
-#include "storage/files/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/sound.h"
 #include "tests/fakes/window.h"
@@ -52,10 +51,9 @@ class MainWindowTest : public TempFolder {
     closeLog();
   }
   // "missing": there is no such file.
-  static void putScrambled(const std::string& path, const std::string& plain) {
-    putBytes("\\plain", plain);
-    std::filesystem::remove(nativePath(path));
-    if (plain != "missing") scrambleFile("\\plain", path);
+  static void putOrRemove(const std::string& path, const std::string& plain) {
+    putScrambled(path, plain);
+    if (plain == "missing") std::filesystem::remove(nativePath(path));
   }
   void press(const char* hint) const {
     QTest::mouseClick(hotSpot(window, hint), Qt::LeftButton);
@@ -79,7 +77,7 @@ TEST_F(MainWindowTest, StartShowsATipOrAGreetingAndTheTitleWithEverythingRead) {
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(window->focusWidget(), hotSpot(window, "Start"));
   for (const std::string tip : {"One, \"two\", three", "", "missing"}) {
-    putScrambled("\\init\\1182", tip);
+    putOrRemove("\\init\\1182", tip);
     EXPECT_EQ(pickTip(), tip[0] == 'O' ? tip : "Welcome to Glonks!  Have a good game.");
   }
   showForm(fTip);
@@ -180,7 +178,7 @@ TEST_F(MainWindowTest, LinksGoToTheSystem) {
   // Without its file, or with a damaged one, the page is empty.
   const std::string two = "Zebra,https://z.example/\r\n\"A, B\",https://a.example/\r\n";
   for (const std::string end : {"missing", "Half a band", "Mute,\r\nZebra,https://last.example/"}) {
-    putScrambled("\\init\\6859", end == "missing" ? end : two + end);
+    putOrRemove("\\init\\6859", end == "missing" ? end : two + end);
     clearItems(allBands);
     readBands();
     EXPECT_EQ(allBands.items, end[1] == 'u' ? Texts({"A, B", "Mute", "Zebra", "Zebra"}) : Texts());

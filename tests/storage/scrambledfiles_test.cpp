@@ -36,8 +36,7 @@ TEST_F(ScrambledFiles, TheFormatToTheByteAndBack) {
       {allLines + "end\r\n", "182.58.\r\n118.238.170.\r\n"},
       {std::string(8191, 'x') + "\r\nend\r\n", "16.106.\r\n142.93.241.\r\n"}};
   for (const auto& [plain, end] : files) {
-    putBytes("\\plain", plain);
-    scrambleFile("\\plain", dataPath);
+    putScrambled(dataPath, plain);
     const std::string bytes = bytesOf(dataPath);
     EXPECT_EQ(bytes.substr(bytes.size() - end.size()), end);
     unscrambleFile(dataPath, "\\back");
