@@ -7,7 +7,7 @@ namespace glonks {
 
 class DataFilesTest : public EngineTest {
  protected:
-  DataFilesTest() { ownDataFolders(); }
+  DataFilesTest() { ownFolderOfLinks("levels"); }
 
   static void levelFrom(const std::string& plain, Flag isArcade) {
     putScrambled("\\levels\\7", plain);

@@ -33,10 +33,8 @@ TEST_F(KeysTest, PauseStopsGameTimeAndAllKeysButN) {
   EXPECT_EQ((Numbers{gameTick(), static_cast<i32>(fake::songsOpened.size())}), (Numbers{2000, 1}));
   Names frames;
   for (i32 i = 0; i < 5; ++i) {
-    for (const char* line :
-         {"fill 0 whole", "Paused...  Press the P key to resume. at 10,20", "flip"}) {
-      frames.emplace_back(line);
-    }
+    frames.insert(frames.end(),
+                  {"fill 0 whole", "Paused...  Press the P key to resume. at 10,20", "flip"});
   }
   EXPECT_EQ(drawn(), frames);
   press("Up", 150);

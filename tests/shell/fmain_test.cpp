@@ -347,28 +347,25 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "100000   \tZo\xeb");
-  choose("&New");
+  const std::tuple<const char*, i16, i16> failing[] = {// mode, grade, credits after it
+                                                       {"Freestyle", -1, 1},
+                                                       {"B-Type", 0, 4},
+                                                       {"B-Type", 1, 7},
+                                                       {"B-Type", 2, 13}};
   fake::windowMessages = [] {
-    score = 200000, bank = 3;
+    score = 200000, bank = 1, levelWon = True;
     throw std::length_error("no room");
   };
-  EXPECT_THROW(press("Play"), std::length_error);
-  storeAtOnce();
-  loadStore();
-  loadScores();
-  EXPECT_TRUE(bank == 3 && holds(scores_freestyle.items[0], "200000   \t")) << "of a failed run";
-  setText(tMode, "B-Type");
-  for (const auto& [grade, prize] : {std::pair<i16, i16>{0, 3}, {1, 6}, {2, 12}}) {
+  for (const auto& [mode, grade, credits] : failing) {
+    setText(tMode, mode);
     tLevels.listIndex = grade;
-    fake::windowMessages = [] {
-      bank = 1, levelWon = True;
-      throw std::length_error("no room");
-    };
     EXPECT_THROW(run(main_BtnRun.click), std::length_error);
     storeAtOnce();
     loadStore();
-    EXPECT_EQ(bank, 1 + prize) << "of a failed run that was won";
+    EXPECT_EQ(bank, credits) << "of a failed run that was won";
   }
+  loadScores();
+  EXPECT_PRED2(holds, scores_freestyle.items[0], "200000   \t");
 }
 
 TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {

@@ -32,8 +32,8 @@ struct Broken {
 const Broken table[] = {
     {{}, ""},
     // Piece files and the other levels.
-    {{{"init/1980", 0, "\none" + std::string(16, '\n') + "3E9"}}, "1980:1 1980:2 1980:18"},
-    {{{"levels/2193", 0, "3600001"}}, "2193:1 2193:2"},
+    {{{"init/1980", 0, "\none" + std::string(16, '\n') + "3E9"}, {"levels/2193", 0, "3600001"}},
+     "1980:1 1980:2 1980:18 2193:1 2193:2"},
     // Fields, goals and entries.
     {{{"levels/3140", 0,
        "0\n \ntwo\n3101\n0,Glonk\n0\n-32767,30\n1,0\n-1,Nothing\n-1,-1\n"
@@ -68,11 +68,10 @@ const Broken table[] = {
            "Slammer,0,800,999")},
      "3140:5 3140:5"},
     // What fits on the screen.
-    {{{"levels/3134", 7, "1000000000"}}, "3134:7"},
     {{{"levels/3139", 3, "Twenty two characters!"}, {"levels/3140", 2, "Twenty two characters!"}},
      ""},
-    {{{"levels/3140", 2, "Twenty three characters"}}, "3139:3 3140:2"},
-    {{{"levels/3140", 2, "What?"}}, "3139:3 3140:2"},
+    {{{"levels/3134", 7, "1000000000"}, {"levels/3140", 2, "Twenty-three characters"}},
+     "3134:7 3139:3 3140:2 3140:2"},
     {{{"init/1980", 1, "Twenty-three characters"},
       {"levels/3137", 5, "1"},
       {"levels/3137", 6, "Twenty-three characters"},
@@ -91,9 +90,11 @@ const Broken table[] = {
        "1\nMore\nFirst Steps\n3101\n-1,-1\n-1\n-1,-1\n2,0\n-1,-1\n-1,-1\nGlonk,1,0,999"}},
      "3141:4 3141:5"},
     // Chapters.
-    {{{"levels/3101", 17, "Bomb,0,532,549"}, {"levels/3117", 12, "1"}, {"levels/3117", 13, "Rock"}},
-     "3101:17 3117:12"},
-    {{{"levels/3140", 30, "Pin,0,990,999"}}, "3140:30"},
+    {{{"levels/3101", 17, "Bomb,0,532,549"},
+      {"levels/3117", 12, "1"},
+      {"levels/3117", 13, "Rock"},
+      {"levels/3140", 30, "Pin,0,990,999"}},
+     "3101:17 3117:12 3140:30"},
     {{{"levels/3103", 0,
        "1\nRock Shower\nPet Rocks\n3104\n1,Rock,1,9,59\n-1,-1\n-1,-1\n-1,-1\nRock,1,0,99\n"
        "Bomb,0,100,999"},
@@ -102,8 +103,10 @@ const Broken table[] = {
        "Bomb,0,100,999"}},
      "3103:1"},
     // Twins.
-    {{{"levels/3132", 3, "First Steps"}, {"levels/3107", 2, "First Steps"}}, "3107:2"},
-    {{{"levels/3134", 6, "Bomb"}}, "3134:5"}};
+    {{{"levels/3132", 3, "First Steps"},
+      {"levels/3107", 2, "First Steps"},
+      {"levels/3134", 6, "Bomb"}},
+     "3107:2 3134:5"}};
 
 void write(const fs::path& data, const std::vector<Edit>& edits) {
   fs::remove_all(data);
