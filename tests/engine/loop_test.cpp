@@ -1,3 +1,5 @@
+#include <numeric>
+
 #include "game/arcade.h"
 #include "game/freestyle.h"
 #include "game/loading/levels.h"
@@ -69,13 +71,8 @@ TEST_F(LoopTest, OneFreestyleSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenColle
 }
 
 TEST_F(LoopTest, LevelsAreDecidedByTheirGoalsAndTimers) {
-  const struct {
-    const char* settings;
-    i32 later;  // ms at which `change` happens
-    const char* change;
-    i32 at;
-    const char* words;
-  } cases[] = {
+  const std::tuple<const char*, i32, const char*, i32, std::string> cases[] = {
+      // settings, ms at which some change, these; ms of the decision, words
       {"goalScore=-1", 0, "", 500, "VICTORY!"},
       {"goalPieceName=Glonk goalPieceCount=1", 2000, "goalPieceCount=0", 2500, "VICTORY!"},
       {"goalPieceName=Nothing goalPieceCount=1", 0, "", 500, "VICTORY!"},
@@ -99,8 +96,8 @@ TEST_F(LoopTest, LevelsAreDecidedByTheirGoalsAndTimers) {
     });
     EXPECT_EQ(said, words) << settings;
     EXPECT_NEAR(decided, at, 1500) << settings;
-    EXPECT_EQ(levelWon, flagOf(*words == 'V')) << settings;
-    EXPECT_EQ(holds(heard(), "clapping"), *words == 'V') << settings;
+    EXPECT_EQ(levelWon, flagOf(words[0] == 'V')) << settings;
+    EXPECT_EQ(holds(heard(), "clapping"), words[0] == 'V') << settings;
   }
 }
 
@@ -125,12 +122,9 @@ TEST_F(LoopTest, ArcadeLoopGoesOnAfterAStepThatFailsAndLogsEachKindOnce) {
   });
   EXPECT_EQ(decision.second, "VICTORY!");  // by the Diamond's popup, which climbs all the same
   EXPECT_EQ(levelWon, True);
-  std::set<std::string> once;
-  std::string all;
-  for (const std::string& line : logged()) {
-    EXPECT_TRUE(once.insert(line).second) << line;
-    all += line;
-  }
+  const Names log = logged();
+  EXPECT_EQ(std::set<std::string>(log.begin(), log.end()).size(), log.size());
+  const std::string all = std::accumulate(log.begin(), log.end(), std::string());
   for (const char* failure : {"429, frame", "7, std::bad_alloc", "_connect0", "_clapping0"}) {
     EXPECT_PRED2(holds, all, failure);
   }

@@ -200,17 +200,14 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
   ownFolderOfLinks("levels");
   putScrambled("\\init\\6537", "One, two\r\n 17 \r\nLast\r\n18");
   putScrambled("\\levels\\18", "1000\r\nLast\r\n");
+  const Texts none = {"No levels to select.  Just click Play!"};
   const std::tuple<std::string, std::string, Texts, i16, std::string> table[] = {
       // mode, description, levels, the one selected, what Play says
       {"Arcade", "Every level challenges", {"One, two", "Last"}, -1, "Please select a level."},
       {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, -1, "Please select a level."},
       {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, 2, "btype.bmp"},
-      {"Midnight Bowling", "Ten pins", {"No levels to select.  Just click Play!"}, -1, "pin.bmp"},
-      {"",
-       "Ten pins",
-       {"No levels to select.  Just click Play!"},
-       -1,
-       "Please select a game mode."},
+      {"Midnight Bowling", "Ten pins", none, -1, "pin.bmp"},
+      {"", "Ten pins", none, -1, "Please select a game mode."},
       {"Arcade", "Every level", {"One, two", "Last"}, 0, "\"\\levels\\17\" can't be opened"},
       {"Arcade", "Every level", {"One, two", "Last"}, 1, "\"\\levels\\18\" is too short"}};
   ownFolderOfLinks("images");
@@ -347,11 +344,9 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "100000   \tZo\xeb");
-  const std::tuple<const char*, i16, i16> failing[] = {// mode, grade, credits after it
-                                                       {"Freestyle", -1, 1},
-                                                       {"B-Type", 0, 4},
-                                                       {"B-Type", 1, 7},
-                                                       {"B-Type", 2, 13}};
+  // Of a run that fails once its game is won: mode, level, credits.
+  const std::tuple<const char*, i16, i16> failing[] = {
+      {"Freestyle", -1, 1}, {"B-Type", 0, 4}, {"B-Type", 1, 7}, {"B-Type", 2, 13}};
   fake::windowMessages = [] {
     score = 200000, bank = 1, levelWon = True;
     throw std::length_error("no room");
@@ -360,9 +355,9 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     setText(tMode, mode);
     tLevels.listIndex = grade;
     EXPECT_THROW(run(main_BtnRun.click), std::length_error);
-    storeAtOnce();
+    for (i32 time = 0; time < 2; ++time) storeAtOnce();
     loadStore();
-    EXPECT_EQ(bank, credits) << "of a failed run that was won";
+    EXPECT_EQ(bank, credits) << mode;
   }
   loadScores();
   EXPECT_PRED2(holds, scores_freestyle.items[0], "200000   \t");
