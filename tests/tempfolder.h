@@ -9,12 +9,13 @@
 
 #include "base/errors.h"
 #include "base/paths.h"
+#include "storage/files/scrambledfiles.h"
 
 namespace glonks {
 
 // A folder of its own for one test, made the program's folder and deleted at the end. It has all
 // that the game reads, by links or as copies, and the player's files as they are at first; tests
-// that write other data files begin with ownDataFolders.
+// that write level files begin with ownFolderOfLinks.
 class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
@@ -31,14 +32,6 @@ class TempFolder : public ::testing::Test {
     setProgramFolder(folder);
   }
   ~TempFolder() override { std::filesystem::remove_all(folder); }
-
-  // Empty folders in the place of the game's data files.
-  void ownDataFolders() const {
-    for (const char* part : {"init", "levels"}) {
-      std::filesystem::remove_all(folder / part);
-      std::filesystem::create_directory(folder / part);
-    }
-  }
 
   // Links to the single files of one of the game's folders, so that some can be taken out and
   // others put in.
@@ -61,6 +54,11 @@ inline std::string bytesOf(const std::string& path) {
 }
 inline void putBytes(const std::string& path, const std::string& bytes) {
   std::ofstream(nativePath(path), std::ios::binary) << bytes;
+}
+// A data file, by its plain bytes.
+inline void putScrambled(const std::string& path, const std::string& plain) {
+  putBytes("\\plain", plain);
+  scrambleFile("\\plain", path);
 }
 inline bool exists(const std::string& path) { return std::filesystem::exists(nativePath(path)); }
 

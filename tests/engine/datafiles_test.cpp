@@ -1,21 +1,16 @@
 #include <sstream>
 
 #include "game/loading/levels.h"
-#include "storage/files/scrambledfiles.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
 
 class DataFilesTest : public EngineTest {
  protected:
-  DataFilesTest() { ownDataFolders(); }
+  DataFilesTest() { ownFolderOfLinks("levels"); }
 
-  static void write(const std::string& path, const std::string& plain) {
-    putBytes("\\plain", plain);
-    scrambleFile("\\plain", path);
-  }
   static void levelFrom(const std::string& plain, Flag isArcade) {
-    write("\\levels\\7", plain);
+    putScrambled("\\levels\\7", plain);
     loadLevel("\\levels\\7", isArcade);
   }
 
@@ -40,7 +35,7 @@ TEST_F(DataFilesTest, BadFilesAreNamedWithTheirField) {
       {"init\\1281", ",1,rock_01", "name"},
       {"init\\1281", "Rock,1,x,0,0,0,0,0,0,0,0,0,0,0,0,0,9e9", "value"}};
   for (const auto& [path, plain, field] : cases) {
-    write("\\" + path, plain);
+    putScrambled("\\" + path, plain);
     const std::string error = path[0] == 'i' ? errorOf([] { loadPiece("1281"); })
                                              : errorOf([] { loadLevel("\\levels\\7", False); });
     EXPECT_TRUE(holds(error, path) && holds(error, " " + field + " ")) << plain << error;

@@ -167,6 +167,14 @@ void startFromHere() {
   remarks.clear();
 }
 
+Piece pieceOf(char letter) {
+  Piece piece = entryOf(letter);
+  piece.variety = varietyOf(letter);
+  if (letter == 'c') piece.imageIndex = negativeCalculatorSlot;
+  if (letter == 'C' || letter == 'c') piece.value = letter == 'C' ? 30 : -40;
+  return piece;
+}
+
 constexpr i32 never = 1000000000;
 
 std::string fallingText(const Piece& piece) {
@@ -197,6 +205,19 @@ double drawOf(const std::string& draw) {
   const std::size_t slash = draw.find('/');
   if (slash == std::string::npos) return std::stod(draw);
   return fake::drawOf(std::stoi(draw), std::stoi(draw.substr(slash + 1)));
+}
+
+// Physics until nothing falls any more, all contacts with the first sound. Returns the number of
+// frames.
+i32 fallToRest() {
+  i32 frames = 0;
+  for (; fallingPiecesUpper >= 0 && frames < 1000; ++frames) {
+    fake::draws.assign(fallingPieces.size(), 0);
+    movePieces();
+    compactFalling();
+  }
+  fake::draws.clear();
+  return frames;
 }
 
 i16 numberAt(const Words& words, std::size_t index, i16 none = 0) {
@@ -307,14 +328,6 @@ Piece& entryOf(char letter) {
   throw std::logic_error("no such piece");
 }
 
-Piece pieceOf(char letter) {
-  Piece piece = entryOf(letter);
-  piece.variety = varietyOf(letter);
-  if (letter == 'c') piece.imageIndex = negativeCalculatorSlot;
-  if (letter == 'C' || letter == 'c') piece.value = letter == 'C' ? 30 : -40;
-  return piece;
-}
-
 void lay(const std::string& rows, const std::string& due) {
   playfield.fill(Row{});
   auto row = static_cast<i16>(std::count(rows.begin(), rows.end(), '/'));
@@ -343,17 +356,6 @@ Piece& drop(char letter, i16 column, i16 y, i16 velocity, i16 bounces) {
   piece.velocity = velocity;
   piece.bounces = bounces;
   return piece;
-}
-
-i32 fallToRest() {
-  i32 frames = 0;
-  for (; fallingPiecesUpper >= 0 && frames < 1000; ++frames) {
-    fake::draws.assign(fallingPieces.size(), 0);
-    movePieces();
-    compactFalling();
-  }
-  fake::draws.clear();
-  return frames;
 }
 
 std::string board() {
@@ -425,10 +427,6 @@ std::string outcome() {
   for (const auto& [name, value] : singles()) {
     if (value != before[name]) add(name, value);
   }
-  EXPECT_EQ((Numbers{fallingPiecesUpper, scorePopupsUpper, impactsUpper, zapsUpper, tickerUpper}),
-            (Numbers{static_cast<i32>(fallingPieces.size()) - 1,
-                     static_cast<i32>(scorePopups.size()) - 1, static_cast<i32>(impacts.size()) - 1,
-                     static_cast<i32>(zaps.size()) - 1, static_cast<i32>(tickerLines.size()) - 1}));
   all += remarks;
   return all.empty() ? "" : all.substr(2);
 }

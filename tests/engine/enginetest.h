@@ -24,7 +24,6 @@ namespace glonks {
 
 using Names = std::vector<std::string>;
 using Numbers = std::vector<i32>;
-using Draws = std::deque<double>;
 using Action = std::function<void()>;
 
 // A Freestyle game that is set up: catalogue loaded, an empty board, no songs, a clock at 1000 ms
@@ -45,7 +44,6 @@ void dirtyGame();
 // The catalogue's piece of a letter: S Slammer, U Bauble, B Bomb, D Diamond, C Calculator of 30, c
 // of -40, G Gorgon, H Shifter, M Money, N Music, T BType, P Pin, R Rock, W Bowling Ball, 1 to 4
 // Glonks.
-Piece pieceOf(char letter);
 Piece& entryOf(char letter);
 
 // Lays a board of pieces at rest: rows from the top, parted by "/", a letter for each cell, "." for
@@ -54,10 +52,6 @@ void lay(const std::string& rows, const std::string& due = "");
 
 // A piece in flight; as it is spawned, if no more is said.
 Piece& drop(char letter, i16 column, i16 y = 0, i16 velocity = 1, i16 bounces = 0);
-
-// Physics until nothing falls any more, all contacts with the first sound. Returns the number of
-// frames.
-i32 fallToRest();
 
 // The board as `lay` takes it, without free cells at a row's end and free rows at the top.
 std::string board();

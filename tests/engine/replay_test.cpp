@@ -6,7 +6,6 @@
 #include "rules/lane.h"
 #include "shell/musicpage.h"
 #include "shell/playbutton.h"
-#include "storage/files/scrambledfiles.h"
 #include "tests/engine/enginetest.h"
 
 namespace glonks {
@@ -73,10 +72,9 @@ class ReplayTest : public EngineTest {
   }
 
   void play(const std::string& mode, const Script& script) {
-    putBytes("\\plain", script.level);
     for (const char* file : {"\\levels\\2193", "\\levels\\2194", "\\levels\\7"}) {
       std::filesystem::remove(nativePath(file));
-      scrambleFile("\\plain", file);
+      putScrambled(file, script.level);
     }
     renew();
     dirtyGame();

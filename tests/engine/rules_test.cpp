@@ -27,8 +27,6 @@ class RulesTest : public EngineTest {
 
   static Cell& cellOf(const Words& place) { return cellAt(number(place[0]), number(place[1])); }
 
-  static std::string at(i32 x, i32 y) { return std::to_string(x) + "," + std::to_string(y) + " "; }
-
   static void noteDrawn() {
     std::string all = "draws";
     for (const std::string& line : drawn()) all += " / " + line;
@@ -104,17 +102,9 @@ class RulesTest : public EngineTest {
         {"slammer", [](const Words& place) { cellOf(place).isSlammer = True; }},
         {"expiry", [](const Words& place) { cellOf(place).expiry = std::stoi(place[2]); }},
         {"direction", [](const Words& place) { cellOf(place).direction = number(place[2]); }},
-        {"cell",
-         [](const Words& place) {
+        {"cell", [](const Words& place) {
            const Cell& cell = cellOf(place);
            note("cell " + stateOf(cell) + (cell.tallied == True ? " tallied" : ""));
-         }},
-        {"places", [](const Words&) {
-           std::string places;
-           for (const ScorePopup& popup : scorePopups) places += at(popup.x, popup.y);
-           for (const Impact& impact : impacts) places += at(impact.x, impact.y);
-           for (const Zap& zap : zaps) places += at(zap.x, zap.y);
-           note("at " + places.erase(places.size() - 1));
          }}};
   }
 };

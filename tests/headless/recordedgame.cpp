@@ -1,10 +1,9 @@
 #include "tests/headless/recordedgame.h"
 
-#include <array>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string>
-#include <utility>
 
 #include "base/errors.h"
 #include "player/player.h"
@@ -12,23 +11,8 @@
 namespace glonks {
 namespace {
 
-constexpr std::array<std::pair<i32, const char*>, 4> keyNames = {
-    {{keyUp, "Up"}, {keyDown, "Down"}, {keyLeft, "Left"}, {keyRight, "Right"}}};
-
-// 0 for a name that no key has.
-i32 codeOf(const std::string& name) {
-  for (const auto& [code, other] : keyNames) {
-    if (name == other) return code;
-  }
-  return 0;
-}
-
-std::string nameOf(i32 code) {
-  for (const auto& [other, name] : keyNames) {
-    if (code == other) return name;
-  }
-  return "?";
-}
+const std::map<std::string, i32> keyCodes = {
+    {"Up", keyUp}, {"Down", keyDown}, {"Left", keyLeft}, {"Right", keyRight}};
 
 // Takes one line into the game; false if it is none of its lines.
 bool take(const std::string& line, RecordedGame& game) {
@@ -39,8 +23,8 @@ bool take(const std::string& line, RecordedGame& game) {
   try {
     if (first == "seed") return (game.seed = std::stoi(second)) > 0;
     if (first == "length") return (game.length = std::stoi(second)) > 0;
-    game.keys.push_back({std::stoi(first), codeOf(second)});
-    return game.keys.back().code != 0;
+    game.keys.push_back({std::stoi(first), keyCodes.at(second)});
+    return true;
   } catch (const std::logic_error&) {
     return false;
   }
@@ -66,7 +50,11 @@ RecordedGame readRecordedGame(const std::filesystem::path& path) {
 void writeRecordedGame(const std::filesystem::path& path, const RecordedGame& game) {
   std::ofstream file(path);
   file << "seed " << game.seed << "\nlength " << game.length << "\n";
-  for (const PressedKey& key : game.keys) file << key.time << " " << nameOf(key.code) << "\n";
+  for (const auto& [time, pressed] : game.keys) {
+    for (const auto& [name, code] : keyCodes) {
+      if (code == pressed) file << time << " " << name << "\n";
+    }
+  }
   file.close();
   if (!file) throw RuntimeError(ErrorNumber::fileAccess, path.string() + " can't be written.");
 }

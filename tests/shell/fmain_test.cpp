@@ -23,7 +23,6 @@
 #include "shell/storepage.h"
 #include "shell/toolkit/toolkit.h"
 #include "storage/files/log.h"
-#include "storage/files/scrambledfiles.h"
 #include "tests/fakes/clock.h"
 #include "tests/fakes/sound.h"
 #include "tests/fakes/window.h"
@@ -52,10 +51,9 @@ class MainWindowTest : public TempFolder {
     closeLog();
   }
   // "missing": there is no such file.
-  static void putScrambled(const std::string& path, const std::string& plain) {
-    putBytes("\\plain", plain);
-    std::filesystem::remove(nativePath(path));
-    if (plain != "missing") scrambleFile("\\plain", path);
+  static void putOrRemove(const std::string& path, const std::string& plain) {
+    putScrambled(path, plain);
+    if (plain == "missing") std::filesystem::remove(nativePath(path));
   }
   void press(const char* hint) const {
     QTest::mouseClick(hotSpot(window, hint), Qt::LeftButton);
@@ -79,7 +77,7 @@ TEST_F(MainWindowTest, StartShowsATipOrAGreetingAndTheTitleWithEverythingRead) {
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(window->focusWidget(), hotSpot(window, "Start"));
   for (const std::string tip : {"One, \"two\", three", "", "missing"}) {
-    putScrambled("\\init\\1182", tip);
+    putOrRemove("\\init\\1182", tip);
     EXPECT_EQ(pickTip(), tip[0] == 'O' ? tip : "Welcome to Glonks!  Have a good game.");
   }
   showForm(fTip);
@@ -180,7 +178,7 @@ TEST_F(MainWindowTest, LinksGoToTheSystem) {
   // Without its file, or with a damaged one, the page is empty.
   const std::string two = "Zebra,https://z.example/\r\n\"A, B\",https://a.example/\r\n";
   for (const std::string end : {"missing", "Half a band", "Mute,\r\nZebra,https://last.example/"}) {
-    putScrambled("\\init\\6859", end == "missing" ? end : two + end);
+    putOrRemove("\\init\\6859", end == "missing" ? end : two + end);
     clearItems(allBands);
     readBands();
     EXPECT_EQ(allBands.items, end[1] == 'u' ? Texts({"A, B", "Mute", "Zebra", "Zebra"}) : Texts());
@@ -202,17 +200,14 @@ TEST_F(MainWindowTest, ModesShowTheirDescriptionAndTheirLevelsAndPlayAsksForWhat
   ownFolderOfLinks("levels");
   putScrambled("\\init\\6537", "One, two\r\n 17 \r\nLast\r\n18");
   putScrambled("\\levels\\18", "1000\r\nLast\r\n");
+  const Texts none = {"No levels to select.  Just click Play!"};
   const std::tuple<std::string, std::string, Texts, i16, std::string> table[] = {
       // mode, description, levels, the one selected, what Play says
       {"Arcade", "Every level challenges", {"One, two", "Last"}, -1, "Please select a level."},
       {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, -1, "Please select a level."},
       {"B-Type", "B-Type begins", {"Mild", "Medium", "Spicy"}, 2, "btype.bmp"},
-      {"Midnight Bowling", "Ten pins", {"No levels to select.  Just click Play!"}, -1, "pin.bmp"},
-      {"",
-       "Ten pins",
-       {"No levels to select.  Just click Play!"},
-       -1,
-       "Please select a game mode."},
+      {"Midnight Bowling", "Ten pins", none, -1, "pin.bmp"},
+      {"", "Ten pins", none, -1, "Please select a game mode."},
       {"Arcade", "Every level", {"One, two", "Last"}, 0, "\"\\levels\\17\" can't be opened"},
       {"Arcade", "Every level", {"One, two", "Last"}, 1, "\"\\levels\\18\" is too short"}};
   ownFolderOfLinks("images");
@@ -349,28 +344,23 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
     EXPECT_GE(std::exchange(fake::songsOpened, {}).size(), songNames.size()) << "all are tried";
   }
   EXPECT_PRED2(holds, scores_freestyle.items[0], "100000   \tZo\xeb");
-  choose("&New");
+  // Of a run that fails once its game is won: mode, level, credits.
+  const std::tuple<const char*, i16, i16> failing[] = {
+      {"Freestyle", -1, 1}, {"B-Type", 0, 4}, {"B-Type", 1, 7}, {"B-Type", 2, 13}};
   fake::windowMessages = [] {
-    score = 200000, bank = 3;
+    score = 200000, bank = 1, levelWon = True;
     throw std::length_error("no room");
   };
-  EXPECT_THROW(press("Play"), std::length_error);
-  storeAtOnce();
-  loadStore();
-  loadScores();
-  EXPECT_TRUE(bank == 3 && holds(scores_freestyle.items[0], "200000   \t")) << "of a failed run";
-  setText(tMode, "B-Type");
-  for (const auto& [grade, prize] : {std::pair<i16, i16>{0, 3}, {1, 6}, {2, 12}}) {
+  for (const auto& [mode, grade, credits] : failing) {
+    setText(tMode, mode);
     tLevels.listIndex = grade;
-    fake::windowMessages = [] {
-      bank = 1, levelWon = True;
-      throw std::length_error("no room");
-    };
     EXPECT_THROW(run(main_BtnRun.click), std::length_error);
-    storeAtOnce();
+    for (i32 time = 0; time < 2; ++time) storeAtOnce();
     loadStore();
-    EXPECT_EQ(bank, 1 + prize) << "of a failed run that was won";
+    EXPECT_EQ(bank, credits) << mode;
   }
+  loadScores();
+  EXPECT_PRED2(holds, scores_freestyle.items[0], "200000   \t");
 }
 
 TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {

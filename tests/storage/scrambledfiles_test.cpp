@@ -12,12 +12,6 @@ const std::string dataPath = "\\init\\6095";
 class ScrambledFiles : public TempFolder {
  protected:
   ScrambledFiles() { makeKeys(keySeed, keyDrawArgument, keyScale); }
-  // Runs an action that fails or is given up, and looks whether it leaves files lying.
-  static std::string errorOfTidy(const auto& action) {
-    const std::string error = errorOf(action);
-    EXPECT_FALSE(exists(tempPath) || exists(dataPath + ".new")) << error;
-    return error;
-  }
 };
 
 // Golden: every data file, a player's scores among them, is scrambled under these tables for ever.
@@ -36,8 +30,7 @@ TEST_F(ScrambledFiles, TheFormatToTheByteAndBack) {
       {allLines + "end\r\n", "182.58.\r\n118.238.170.\r\n"},
       {std::string(8191, 'x') + "\r\nend\r\n", "16.106.\r\n142.93.241.\r\n"}};
   for (const auto& [plain, end] : files) {
-    putBytes("\\plain", plain);
-    scrambleFile("\\plain", dataPath);
+    putScrambled(dataPath, plain);
     const std::string bytes = bytesOf(dataPath);
     EXPECT_EQ(bytes.substr(bytes.size() - end.size()), end);
     unscrambleFile(dataPath, "\\back");
@@ -54,21 +47,22 @@ TEST_F(ScrambledFiles, DamageIsToldAndLeavesNothingLying) {
   putBytes(dataPath, "71..12\r\n247.\r\n" + std::string(32767, '1'));
   unscrambleFile(dataPath, "\\plain");
   EXPECT_EQ(bytesOf("\\plain"), "\xEC\xE9\r\n2\r\n\r\n");
-  EXPECT_PRED2(holds, errorOfTidy(readOn), "\"" + dataPath + "\" is too short");
+  EXPECT_PRED2(holds, errorOf(readOn), "\"" + dataPath + "\" is too short");
   for (const char* bad : {"256.", "4294967297.", "7a.", "-1.", "1.x"}) {
     putBytes(dataPath, std::string("71.\r\n\r\n") + bad);
-    EXPECT_PRED2(holds, errorOfTidy(readOn), dataPath + "\" is damaged: line 3 ") << bad;
+    EXPECT_PRED2(holds, errorOf(readOn), dataPath + "\" is damaged: line 3 ") << bad;
   }
   // What is given up or too long replaces nothing.
   putBytes(dataPath, "old");
-  errorOfTidy([] { ScrambledWriter writer(dataPath); });
-  const std::string error = errorOfTidy([] {
+  errorOf([] { ScrambledWriter writer(dataPath); });
+  const std::string error = errorOf([] {
     ScrambledWriter writer(dataPath);
     writeLine(playersChannel, std::string(20000, 'x'));
     writer.close();
   });
   EXPECT_PRED2(holds, error, "\"" + dataPath + "\" is damaged: line 1 ");
   EXPECT_EQ(bytesOf(dataPath), "old");
+  EXPECT_FALSE(exists(tempPath) || exists(dataPath + ".new"));
 }
 
 }  // namespace
