@@ -41,18 +41,27 @@ class LoopTest : public EngineTest {
   }
 };
 
-TEST_F(LoopTest, FramesAreDueByTheLastOneAndWhatIsLateIsNotMadeUpFor) {
+TEST_F(LoopTest, PiecesFramesAndTimePointsAreDueByTheLastOfTheirKind) {
   newGame();
-  Numbers frames;
+  Numbers arrivals, frames, payments;
+  i32 pieces = 0, shown = 0, paid = 0;
+  spawnInterval = 9000;
   fake::onPicture = [](const std::string& name) {
     if (name == "flip" || name == "frame") fake::clockNow += 5;
   };
-  run(play, 1, 300, [&, shown = 0](i32 now) mutable {
-    if (fake::picturesShown > shown) frames.push_back(now);
+  run(play, 1, 25000, [&](i32 now) {
+    if (fallingPiecesUpper >= pieces) arrivals.push_back(now);
+    if (fake::picturesShown > shown && now < 100) frames.push_back(now);
+    if (score > paid) payments.push_back(now);
+    pieces = fallingPiecesUpper + 1;
     shown = fake::picturesShown;
-    if (now == 42) fake::clockNow += 200;
+    paid = score;
+    if (now == 10005) fake::clockNow += 2000;  // what is late isn't made up for
   });
-  EXPECT_EQ(frames, (Numbers{11, 42, 253, 284}));
+  EXPECT_EQ(arrivals, (Numbers{508, 9509, 18510}));
+  EXPECT_EQ(frames, (Numbers{11, 42, 73}));
+  EXPECT_EQ(payments, (Numbers{10001, 20002}));
+  EXPECT_EQ(score, 6);
 }
 
 TEST_F(LoopTest, OneFreestyleSpawnInTwoThousandIsAMusicNoteWhileFewHaveBeenCollected) {
