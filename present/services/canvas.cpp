@@ -1,7 +1,6 @@
 #include "present/services/canvas.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "present/services/gamefont.h"

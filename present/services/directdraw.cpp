@@ -1,7 +1,5 @@
 #include "present/services/directdraw.h"
 
-#include <utility>
-
 #include "base/errors.h"
 #include "present/services/screen.h"
 #include "present/services/window.h"

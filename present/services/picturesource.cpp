@@ -119,6 +119,8 @@ void PictureSource::setKey(i32 low, i32 high) {
   hasKey_ = true;
   low_ = low;
   high_ = high;
+  prepared_.clear();
+  nextPrepared_ = 0;
 }
 
 bool PictureSource::isKey(u32 pixel) const {

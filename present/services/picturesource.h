@@ -47,7 +47,7 @@ class PictureSource {
   u32 number() const { return number_; }  // no two sources have the same
 
   // Keyed blits leave out the colours from `low` to `high`, unless the file says itself what can be
-  // seen through. To be called before the first blit.
+  // seen through.
   void setKey(i32 low, i32 high);
 
   // The logical part `from` at `width` by `height` pixels. Outside the picture there is nothing to

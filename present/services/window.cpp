@@ -124,6 +124,10 @@ void handle(const SDL_Event& event) {
     case SDL_WINDOWEVENT:
       handleWindowEvent(event.window);
       break;
+    case SDL_RENDER_TARGETS_RESET:
+    case SDL_RENDER_DEVICE_RESET:
+      repaintDue = true;  // only changes are sent, so the rest would stay lost
+      break;
     case SDL_AUDIODEVICEREMOVED:
       // 0: a device that nobody had opened
       if (event.adevice.iscapture == 0 && event.adevice.which != 0) noteDeviceRemoved();
