@@ -1,5 +1,6 @@
 #include "present/screen/messages.h"
 
+#include "present/screen/display.h"
 #include "present/services/window.h"
 #include "shell/toolkit/toolkit.h"
 
@@ -7,6 +8,7 @@ namespace glonks {
 
 void letMessagesThrough(u32 until) {
   letFormMessagesThrough();
+  if (backBuffer) backBuffer->ComposeAhead();
   letWindowMessagesThrough(until);
 }
 

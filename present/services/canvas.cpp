@@ -11,6 +11,7 @@ namespace {
 
 constexpr i32 tileWidth = 32;  // pixels
 constexpr i32 tileHeight = 32;
+constexpr u64 nothing = 1;                 // a tile's digest before the first step
 constexpr std::size_t mostEntries = 2000;  // several times those of the busiest frame
 
 // Mixes a number into a digest; the order counts. The constants are those of the hash FNV-1a and of
@@ -63,6 +64,7 @@ void Canvas::setUp() {
   tileColumns_ = (raster_->width + tileWidth - 1) / tileWidth;
   tileRows_ = (raster_->height + tileHeight - 1) / tileHeight;
   tiles_.assign(Raster::size(tileColumns_, tileRows_), 0);
+  takenTiles_.assign(tiles_.size(), nothing);
   changed_.assign(tiles_.size(), 0);
   upToDate_ = false;
 }
@@ -71,6 +73,7 @@ void Canvas::setScale(double scale) {
   scale_ = scale;
   setUp();
   for (Entry& entry : entries_) entry.area = areaOf(entry.step);
+  taken_ = entries_;
 }
 
 Rect Canvas::areaOf(const DrawStep& step) const {
@@ -83,11 +86,14 @@ Rect Canvas::areaOf(const DrawStep& step) const {
   return area;
 }
 
-bool Canvas::covers(const Entry& entry, const Rect& part) const {
-  if (entry.step.kind == DrawStep::Kind::text || !contains(entry.area, part)) return false;
-  if (!entry.step.keyed) return true;
-  return preparedFor(entry).hides({part.left - entry.area.left, part.top - entry.area.top,
-                                   part.right - entry.area.left, part.bottom - entry.area.top});
+Canvas::Cover::Cover(const Entry& entry)
+    : area_(entry.step.kind == DrawStep::Kind::text ? Rect{} : entry.area),
+      picture_(entry.step.keyed ? &preparedFor(entry) : nullptr) {}
+
+bool Canvas::Cover::hides(const Rect& part) const {
+  if (!contains(area_, part)) return false;
+  return picture_ == nullptr || picture_->hides({part.left - area_.left, part.top - area_.top,
+                                                 part.right - area_.left, part.bottom - area_.top});
 }
 
 const PreparedPicture& Canvas::preparedFor(const Entry& entry) {
@@ -111,13 +117,16 @@ bool Canvas::draw(DrawStep step) {
   const u64 digest = digestOf(step);
   Entry entry{std::move(step), area, digest};
   if (standsAlready(entry)) return true;
-  if (covers(entry, raster_->whole())) {
+  if (Cover(entry).hides(raster_->whole())) {
+    // Another scene: the pictures of the old one aren't kept any longer.
+    if (!taken_.empty() && taken_.front().digest != entry.digest) taken_.clear();
     entries_.clear();
   } else if (entries_.size() >= mostEntries) {
     flatten();
   }
   entries_.push_back(std::move(entry));
   upToDate_ = false;
+  ahead_ = false;
   return true;
 }
 
@@ -138,9 +147,22 @@ std::shared_ptr<const Raster> Canvas::raster() {
 
 std::vector<Rect> Canvas::takeChanges() {
   update();
-  std::vector<Rect> parts = partsWhere([this](std::size_t tile) { return changed_[tile] != 0; });
-  std::fill(changed_.begin(), changed_.end(), 0);
-  return parts;
+  for (std::size_t tile = 0; tile < tiles_.size(); ++tile) {
+    changed_[tile] = tiles_[tile] == takenTiles_[tile] ? 0 : 1;
+  }
+  taken_ = entries_;
+  takenTiles_ = tiles_;
+  std::vector<Rect> changes;
+  for (const Part& part : partsOf(changed_)) changes.push_back(part.area);
+  return changes;
+}
+
+std::shared_ptr<const Raster> Canvas::takenRaster() {
+  if (tiles_ != takenTiles_) {
+    compose(taken_, std::vector<u32>(tiles_.size(), 1));
+    upToDate_ = false;
+  }
+  return raster_;
 }
 
 // The tiles that an area touches: columns and rows, right and bottom exclusive.
@@ -151,67 +173,94 @@ Rect Canvas::tilesOf(const Rect& area) const {
           (shown.bottom - 1) / tileHeight + 1};
 }
 
-// All tiles of which something is true, joined along rows, and rows of the same width joined.
-template <typename Is>
-std::vector<Rect> Canvas::partsWhere(Is is) const {
-  std::vector<Rect> parts;
+Rect Canvas::placeOf(i32 column, i32 row) const {
+  return common(
+      {column * tileWidth, row * tileHeight, (column + 1) * tileWidth, (row + 1) * tileHeight},
+      raster_->whole());
+}
+
+// All tiles of a kind other than 0: neighbours of the same kind joined along rows, and rows of the
+// same width joined.
+std::vector<Canvas::Part> Canvas::partsOf(const std::vector<u32>& kinds) const {
+  std::vector<Part> parts;
   for (i32 row = 0; row < tileRows_; ++row) {
     const i32 top = row * tileHeight;
     const i32 bottom = std::min(top + tileHeight, raster_->height);
+    const u32* tiles = &kinds[Raster::size(tileColumns_, row)];
     for (i32 column = 0; column < tileColumns_;) {
       const i32 begin = column;
-      const std::size_t first = Raster::size(tileColumns_, row);
-      while (column < tileColumns_ && is(first + static_cast<std::size_t>(column))) ++column;
-      if (column == begin) {
-        ++column;
-        continue;
-      }
+      const u32 kind = tiles[begin];
+      while (column < tileColumns_ && tiles[column] == kind) ++column;
+      if (kind == 0) continue;
       const i32 left = begin * tileWidth;
       const i32 right = std::min(column * tileWidth, raster_->width);
-      const auto above = std::find_if(parts.begin(), parts.end(), [&](const Rect& part) {
-        return part.bottom == top && part.left == left && part.right == right;
+      const auto above = std::find_if(parts.begin(), parts.end(), [&](const Part& part) {
+        return part.kind == kind && part.area.bottom == top && part.area.left == left &&
+               part.area.right == right;
       });
       if (above != parts.end()) {
-        above->bottom = bottom;
+        above->area.bottom = bottom;
       } else {
-        parts.push_back({left, top, right, bottom});
+        parts.push_back({{left, top, right, bottom}, kind});
       }
     }
   }
   return parts;
 }
 
-void Canvas::update() {
-  if (upToDate_) return;
-  std::vector<u64> wanted(tiles_.size(), 1);
-  for (const Entry& entry : entries_) {
+// Makes the tiles of which `where` isn't 0 show what some steps lead to. What is hidden doesn't
+// count: a tile's digest begins anew with each step that hides all before it there. Where a tile
+// stands as some of the steps have left it, only the others are carried out.
+void Canvas::compose(const std::vector<Entry>& entries, const std::vector<u32>& where) {
+  std::vector<u64> wanted(tiles_.size(), nothing);
+  std::vector<u32> done(tiles_.size(), 1);  // steps that a tile shows already, and 1
+  for (u32 number = 1; number <= entries.size(); ++number) {
+    const Entry& entry = entries[number - 1];
     const Rect touched = tilesOf(entry.area);
+    const Cover cover(entry);
     for (i32 row = touched.top; row < touched.bottom; ++row) {
-      u64* tile = &wanted[Raster::size(tileColumns_, row)];
       for (i32 column = touched.left; column < touched.right; ++column) {
-        tile[column] = mixedIn(tile[column], entry.digest);
+        const std::size_t tile = tileAt(column, row);
+        if (cover.hides(placeOf(column, row))) {
+          wanted[tile] = nothing;
+          done[tile] = 1;
+        }
+        wanted[tile] = mixedIn(wanted[tile], entry.digest);
+        if (wanted[tile] == tiles_[tile]) done[tile] = number + 1;
       }
     }
   }
-  const auto differs = [&](std::size_t tile) { return wanted[tile] != tiles_[tile]; };
-  for (const Rect& part : partsWhere(differs)) redraw(part);
   for (std::size_t tile = 0; tile < tiles_.size(); ++tile) {
-    if (differs(tile)) changed_[tile] = 1;
+    if (where[tile] == 0 || wanted[tile] == tiles_[tile]) {
+      done[tile] = 0;
+    } else {
+      tiles_[tile] = wanted[tile];
+    }
   }
-  tiles_ = std::move(wanted);
-  upToDate_ = true;
+  for (const Part& part : partsOf(done)) {
+    auto entry = entries.begin() + part.kind - 1;
+    if (part.kind == 1) {  // what lies under a cover isn't seen
+      entry = entries.end();
+      while (entry != entries.begin() && !Cover(*--entry).hides(part.area)) {
+      }
+    }
+    for (; entry != entries.end(); ++entry) {
+      const Rect shown = common(entry->area, part.area);
+      if (!isEmpty(shown)) carryOut(*entry, shown);
+    }
+  }
 }
 
-void Canvas::redraw(const Rect& part) {
-  auto entry = entries_.end();
-  while (entry != entries_.begin()) {  // what lies under a cover isn't seen
-    --entry;
-    if (covers(*entry, part)) break;
-  }
-  for (; entry != entries_.end(); ++entry) {
-    const Rect shown = common(entry->area, part);
-    if (!isEmpty(shown)) carryOut(*entry, shown);
-  }
+void Canvas::update() {
+  if (upToDate_) return;
+  compose(entries_, std::vector<u32>(tiles_.size(), 1));
+  upToDate_ = true;
+  ahead_ = true;
+}
+
+void Canvas::composeAhead() {
+  if (!ahead_ && !taken_.empty()) compose(entries_, changed_);
+  ahead_ = true;
 }
 
 void Canvas::carryOut(const Entry& entry, const Rect& part) {

@@ -47,7 +47,7 @@ class Canvas {
   Canvas(i32 width, i32 height, double scale);
 
   double scale() const { return scale_; }
-  // The same steps at another scale.
+  // The same steps at another scale. Only while the changes that they led to have been taken.
   void setScale(double scale);
 
   // Adds a step, cut off at the edges. False if nothing of it lies on the canvas. A text that was
@@ -62,36 +62,67 @@ class Canvas {
   // it.
   std::vector<Rect> takeChanges();
 
+  // The pixels as they were at the last call of takeChanges; they change with the next call.
+  std::shared_ptr<const Raster> takenRaster();
+
+  // Carries out, early, the steps since takeChanges where it has found a change: there the next
+  // picture will most likely differ too. Does nothing when another scene has begun, which is when
+  // what covers the whole canvas isn't the same as then. For the time when nothing else is due.
+  void composeAhead();
+
  private:
   struct Entry {
     DrawStep step;
     Rect area;  // pixels, not cut off
     u64 digest;
   };
+  struct Part {
+    Rect area;
+    u32 kind;
+  };
+
+  // What lies under a step and can't be seen.
+  class Cover {
+   public:
+    explicit Cover(const Entry& entry);
+    // False too if it can't be told quickly.
+    bool hides(const Rect& part) const;
+
+   private:
+    Rect area_;
+    const PreparedPicture* picture_;  // of a keyed one
+  };
 
   void setUp();
   Rect areaOf(const DrawStep& step) const;
-  bool covers(const Entry& entry, const Rect& part) const;
   static const PreparedPicture& preparedFor(const Entry& entry);
   bool standsAlready(const Entry& entry) const;
   void flatten();
   void update();
   void carryOut(const Entry& entry, const Rect& part);
-  void redraw(const Rect& part);
   Rect tilesOf(const Rect& area) const;
-  template <typename Is>
-  std::vector<Rect> partsWhere(Is is) const;
+  std::size_t tileAt(i32 column, i32 row) const {
+    return Raster::size(tileColumns_, row) + static_cast<std::size_t>(column);
+  }
+  Rect placeOf(i32 column, i32 row) const;
+  void compose(const std::vector<Entry>& entries, const std::vector<u32>& where);
+  std::vector<Part> partsOf(const std::vector<u32>& kinds) const;
 
   i32 width_;  // logical
   i32 height_;
   double scale_;
   std::vector<Entry> entries_;  // the first covers everything, unless the canvas is empty
-  bool upToDate_ = false;
+  bool upToDate_ = false;       // with all steps
+  bool ahead_ = false;          // with all steps where changes were found
   std::shared_ptr<Raster> raster_;
   i32 tileColumns_ = 0;
   i32 tileRows_ = 0;
-  std::vector<u64> tiles_;  // what each tile shows: a digest of the steps that touch it
-  std::vector<char> changed_;
+  std::vector<u64> tiles_;  // what each tile shows: a digest of the steps that can be seen in it
+  // At the last look at changes: the steps (none once another scene has begun), the tiles, and 1
+  // where a tile had changed.
+  std::vector<Entry> taken_;
+  std::vector<u64> takenTiles_;
+  std::vector<u32> changed_;
 };
 
 }  // namespace glonks

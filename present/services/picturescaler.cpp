@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "present/services/pixels.h"
+#include "present/services/raster.h"
 
 namespace glonks {
 namespace {
@@ -68,9 +69,13 @@ Rect PictureScaler::influenced(const Rect& part) const {
 
 void PictureScaler::scale(const RowOf& rowOf, u32* to, i32 toPitch, const Rect& part) const {
   if (sameSize_) {
+    const i32 width = part.right - part.left;
+    const auto targetOf = [&](i32 y) {
+      return to + static_cast<std::ptrdiff_t>(y) * toPitch + part.left;
+    };
     for (i32 y = part.top; y < part.bottom; ++y) {
-      std::memcpy(to + static_cast<std::ptrdiff_t>(y) * toPitch + part.left, rowOf(y) + part.left,
-                  static_cast<std::size_t>(part.right - part.left) * sizeof(u32));
+      if (y + rowsAhead < part.bottom) fetch(targetOf(y + rowsAhead), width);
+      std::memcpy(targetOf(y), rowOf(y) + part.left, static_cast<std::size_t>(width) * sizeof(u32));
     }
   } else if (columns_.shrinks || rows_.shrinks) {
     scaleByAreas(rowOf, to, toPitch, part);

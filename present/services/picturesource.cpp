@@ -17,6 +17,10 @@ namespace {
 // rounded to.
 constexpr std::size_t mostPrepared = 32;
 
+constexpr i32 blockSize = 16;  // pixels of a block's edge
+
+i32 blocksAlong(i32 pixels) { return (pixels + blockSize - 1) / blockSize; }
+
 u32 sources = 0;  // made so far
 
 Raster scaled(const PictureScaler::RowOf& rowOf, i32 oldWidth, i32 oldHeight, i32 width,
@@ -37,7 +41,10 @@ Cover coverOf(u32 pixel) {
   return alpha == 0 ? Cover::none : alpha == 255 ? Cover::whole : Cover::partly;
 }
 
+// The runs, and the blocks of which they leave nothing open.
 void findRuns(PreparedPicture& prepared) {
+  const i32 columns = blocksAlong(prepared.width);
+  prepared.solidBlocks.assign(Raster::size(columns, blocksAlong(prepared.height)), 1);
   for (i32 y = 0; y < prepared.height; ++y) {
     prepared.rows.push_back(prepared.runs.size());
     u32* row = prepared.raster.row(y);
@@ -46,8 +53,12 @@ void findRuns(PreparedPicture& prepared) {
       const Cover cover = coverOf(row[x]);
       for (; x < prepared.width && coverOf(row[x]) == cover; ++x) {
       }
-      if (cover == Cover::none) continue;
       const bool solid = cover == Cover::whole;
+      if (!solid) {
+        char* blocks = &prepared.solidBlocks[Raster::size(columns, y / blockSize)];
+        std::fill(blocks + start / blockSize, blocks + blocksAlong(x), 0);
+      }
+      if (cover == Cover::none) continue;
       for (i32 i = start; solid && i < x; ++i) row[i] &= colorBits;
       prepared.runs.push_back({start, x - start, solid});
     }
@@ -70,6 +81,10 @@ void PreparedPicture::draw(Raster& target, i32 left, i32 top, const Rect& clip) 
     u32* under = target.row(y);
     const u32* over = raster.row(y - top);
     const auto row = static_cast<std::size_t>(y - top);
+    if (y + rowsAhead < shown.bottom && rows[row + rowsAhead] < rows[row + rowsAhead + 1]) {
+      fetch(target.row(y + rowsAhead) + shown.left, shown.right - shown.left);
+      fetch(raster.row(y - top + rowsAhead) + shown.left - left, shown.right - shown.left);
+    }
     for (std::size_t i = rows[row]; i < rows[row + 1]; ++i) {
       const i32 first = std::max(runs[i].x, shown.left - left);
       const i32 end = std::min(runs[i].x + runs[i].length, shown.right - left);
@@ -87,14 +102,10 @@ void PreparedPicture::draw(Raster& target, i32 left, i32 top, const Rect& clip) 
 }
 
 bool PreparedPicture::hides(const Rect& part) const {
-  for (i32 y = part.top; y < part.bottom; ++y) {
-    const auto row = static_cast<std::size_t>(y);
-    const bool hidden =
-        std::any_of(runs.begin() + static_cast<std::ptrdiff_t>(rows[row]),
-                    runs.begin() + static_cast<std::ptrdiff_t>(rows[row + 1]), [&](const Run& run) {
-                      return run.solid && run.x <= part.left && run.x + run.length >= part.right;
-                    });
-    if (!hidden) return false;
+  for (i32 row = part.top / blockSize; row < blocksAlong(part.bottom); ++row) {
+    const char* blocks = &solidBlocks[Raster::size(blocksAlong(width), row)];
+    const char* end = blocks + blocksAlong(part.right);
+    if (std::find(blocks + part.left / blockSize, end, 0) != end) return false;
   }
   return true;
 }
@@ -151,7 +162,7 @@ const PreparedPicture& PictureSource::prepared(const Rect& from, i32 width, i32 
     }
   }
   const Rect part = edgesAt(from, scale_);
-  PreparedPicture fresh{from, width, height, keyed, {}, {}, {}};
+  PreparedPicture fresh{from, width, height, keyed, {}, {}, {}, {}};
   const bool byKey = keyed && hasKey_;
   if (part == Rect{0, 0, picture_.width, picture_.height} && !byKey) {
     std::array<std::vector<u32>, 2> spaces;

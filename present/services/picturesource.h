@@ -25,12 +25,13 @@ struct PreparedPicture {
   Raster raster;                  // colours multiplied by alpha, solid pixels 0x00RRGGBB
   std::vector<Run> runs;          // by rows from the top, within a row from the left
   std::vector<std::size_t> rows;  // the first run of each row, and the end
+  std::vector<char> solidBlocks;  // by rows: whether a square of pixels is solid all over
 
   // Draws the picture with its top left at (left, top), as far as it lies in `clip`, which lies in
   // the target.
   void draw(Raster& target, i32 left, i32 top, const Rect& clip) const;
 
-  // Whether nothing under a part of the picture can be seen.
+  // True if nothing under a part of the picture can be seen; false if that can't be told quickly.
   bool hides(const Rect& part) const;
 };
 

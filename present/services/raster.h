@@ -24,4 +24,16 @@ struct Raster {
   Rect whole() const { return {0, 0, width, height}; }
 };
 
+inline constexpr i32 rowsAhead = 4;
+
+// Begins to fetch pixels into the processor's cache that are to be read or written `rowsAhead` rows
+// from now. After a wait they are no longer there, and short rows lie too far from each other for
+// the processor to see by itself what comes next. In long ones it does.
+inline void fetch(const u32* pixels, i32 count) {
+  constexpr i32 pixelsInLine = 16;
+  constexpr i32 longRow = 256;  // pixels
+  if (count > longRow) return;
+  for (i32 i = 0; i < count; i += pixelsInLine) __builtin_prefetch(pixels + i);
+}
+
 }  // namespace glonks

@@ -31,7 +31,8 @@ double scale = 1;
 double scaleWanted = 1;               // by the window's present size
 u32 wantedSince = 0;                  // tick
 std::shared_ptr<const Raster> shown;  // the picture that stands on the screen
-u32 lastShown = 0;                    // tick of the last picture
+std::function<std::shared_ptr<const Raster>()> shownAgain;
+u32 lastShown = 0;  // tick of the last picture
 
 // With a graphics processor: one texture, which it scales.
 
@@ -231,6 +232,7 @@ void closeScreen() {
   window = nullptr;
   scale = 1;
   shown = nullptr;
+  shownAgain = nullptr;
 }
 
 double screenScale() {
@@ -251,12 +253,14 @@ void showPicture(const ShownPicture& picture) {
   SDL_PumpEvents();  // keeps the system from taking a loading game for a dead one
   if (picture.raster != shown) forgetScreen();
   shown = picture.raster;
+  shownAgain = picture.again;
   show(picture.changes);
   lastShown = GetTickCount();
 }
 
 void repaintScreen() {
   if (shown == nullptr) return;
+  shown = shownAgain();
   forgetScreen();
   show({});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -22,8 +23,10 @@ void closeScreen();
 double screenScale();
 
 struct ShownPicture {
-  std::shared_ptr<const Raster> raster;  // 0x00RRGGBB; stays as it is until the next is shown
+  std::shared_ptr<const Raster> raster;  // 0x00RRGGBB
   std::vector<Rect> changes;             // where it differs from the picture shown before
+  // Gives the picture's pixels again, also when something else stands in the raster by then.
+  std::function<std::shared_ptr<const Raster>()> again;
 };
 
 // Shows a picture of any size, scaled if it doesn't fit the window exactly. Waits so that two

@@ -60,6 +60,8 @@ i32 DirectDrawSurface7::Blt(const Rect& to, const Surface& source, const Rect& f
   return add(std::move(step));
 }
 
+void DirectDrawSurface7::ComposeAhead() { canvas_->composeAhead(); }
+
 i32 DirectDrawSurface7::BltColorFill(const Rect& to, i32 color) {
   DrawStep step;
   step.to = to;
@@ -99,11 +101,11 @@ void DirectDrawSurface7::Flip(const Surface& overrideSurface, i32 /*flags*/) {
   if (!shown) {
     throw RuntimeError(ErrorNumber::serviceFailed, "Flip: the surface has no back buffer.");
   }
-  Canvas& canvas = *shown->canvas_;
-  const std::vector<Rect> changes = canvas.takeChanges();
-  showPicture({canvas.raster(), changes});
+  const std::shared_ptr<Canvas> canvas = shown->canvas_;
+  const std::vector<Rect> changes = canvas->takeChanges();
+  showPicture({canvas->raster(), changes, [canvas] { return canvas->takenRaster(); }});
   const double wanted = screenScale();
-  if (canvas.scale() != wanted) canvas.setScale(wanted);
+  if (canvas->scale() != wanted) canvas->setScale(wanted);
 }
 
 }  // namespace glonks

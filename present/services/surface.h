@@ -78,6 +78,10 @@ class DirectDrawSurface7 {
   // Raises serviceFailed if the font can't be had.
   void DrawText(i32 x, i32 y, const std::string& text, Flag atCursor);
 
+  // Of a surface to draw on: works out, as far as that is likely to be of use, what has been drawn
+  // since it was shown. It changes nothing that can be seen; it spares the next Flip the time.
+  void ComposeAhead();
+
   // A primary surface's: its back buffer (`caps` 4), and showing that on the screen. If the screen
   // asks for another scale after that, the back buffer takes it. Flip raises serviceFailed if there
   // is no back buffer or the screen can't show it.

@@ -83,6 +83,7 @@ void DirectDrawSurface7::DrawText(i32 x, i32 y, const std::string& text, Flag /*
 Surface DirectDrawSurface7::GetAttachedSurface(i32 caps) {
   return caps == 4 ? backBuffer_ : nullptr;
 }
+void DirectDrawSurface7::ComposeAhead() {}
 void DirectDrawSurface7::attachBackBuffer(Surface backBuffer) { backBuffer_ = backBuffer; }
 void DirectDrawSurface7::Flip(const Surface& overrideSurface, i32 flags) {
   fake::onPicture("flip");
