@@ -363,7 +363,7 @@ TEST_F(MainWindowTest, GamesRunInsideTheClickAndComeBackToTheRightPage) {
   EXPECT_PRED2(holds, scores_freestyle.items[0], "200000   \t");
 }
 
-TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {
+TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndScoresAndVolumeAtClosingButNotByQuit) {
   window->findChild<QMenuBar*>()->setFocus();  // where Escape in a menu leaves it
   choose("&Backgrounds");
   setValue(HScroll1, 3);
@@ -377,9 +377,11 @@ TEST_F(MainWindowTest, ThemeIsStoredWhenChosenAndVolumeAtClosingButNotByQuit) {
   EXPECT_EQ(themeName, "Cells") << "the first, in the place of an unknown one";
   for (const bool closed : {false, true}) {
     setValue(HScroll2, 30);
+    std::filesystem::remove(nativePath("\\init\\6095"));
     later([&] { closed ? static_cast<void>(window->close()) : choose("&Quit"); });
     runEvents();
     EXPECT_EQ(holds(bytesOf("\\log.txt"), "LOG CLOSED ON 01/02/03 AT 04:05:06\r\n"), closed);
+    EXPECT_EQ(isRegularFile(nativePath("\\init\\6095")), closed);
     loadStore();
     EXPECT_EQ(musicVolume, closed ? 30 : 70);
   }
