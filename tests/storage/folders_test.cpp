@@ -23,6 +23,7 @@ class Folders : public TempFolder {
  protected:
   Folders() {
     makeKeys(keySeed, keyDrawArgument, keyScale);
+    takeNews();
     fs::remove_all(users);
     fs::create_directory(users);
   }
