@@ -203,7 +203,7 @@ void setScale(const benchmark::State& state) {
 }
 
 void composeBoard() {
-  backBuffer->BltColorFill({}, 0);
+  clearBack();
   layPlate();
   layFrame();
   drawField();
