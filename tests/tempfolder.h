@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -10,8 +9,16 @@
 #include "base/errors.h"
 #include "base/paths.h"
 #include "storage/files/scrambledfiles.h"
+#include "tests/system.h"
 
 namespace glonks {
+
+// Makes a symbolic link. False where the system has none.
+inline bool makeLink(const std::filesystem::path& target, const std::filesystem::path& place) {
+  std::error_code error;
+  std::filesystem::create_symlink(target, place, error);
+  return !error;
+}
 
 // A folder of its own for one test, made the program's folder and deleted at the end. It has all
 // that the game reads, by links or as copies, and the player's files as they are at first; tests
@@ -20,11 +27,11 @@ class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
     namespace fs = std::filesystem;
-    folder = fs::temp_directory_path() / ("glonks." + std::to_string(getpid()));
+    folder = fs::temp_directory_path() / ("glonks." + std::to_string(processNumber()));
     fs::remove_all(folder);
     fs::create_directories(folder);
     for (const char* part : {"images", "sounds", "music", "themes", "levels", "first"}) {
-      fs::create_directory_symlink(gameFolder / part, folder / part);
+      link(gameFolder / part, folder / part);
     }
     fs::copy(gameFolder / "init", folder / "init");
     fs::copy(gameFolder / "first", folder / "init",
@@ -39,7 +46,17 @@ class TempFolder : public ::testing::Test {
     std::filesystem::remove_all(folder / part);
     std::filesystem::create_directory(folder / part);
     for (const auto& file : std::filesystem::directory_iterator(gameFolder / part)) {
-      create_symlink(file.path(), folder / part / file.path().filename());
+      link(file.path(), folder / part / file.path().filename());
+    }
+  }
+
+  // A link to a file or folder, or in its place a folder with second names of the files.
+  static void link(const std::filesystem::path& target, const std::filesystem::path& place) {
+    if (makeLink(target, place)) return;
+    if (!is_directory(target)) return create_hard_link(target, place);
+    create_directory(place);
+    for (const auto& file : std::filesystem::directory_iterator(target)) {
+      link(file.path(), place / file.path().filename());
     }
   }
 

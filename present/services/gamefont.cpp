@@ -1,7 +1,6 @@
 #include "present/services/gamefont.h"
 
 #include <SDL_ttf.h>
-#include <fontconfig/fontconfig.h>
 
 #include <cmath>
 #include <map>
@@ -11,6 +10,7 @@
 
 #include "base/text.h"
 #include "present/services/failure.h"
+#include "present/services/fontfile.h"
 #include "present/services/sdlsurface.h"
 
 namespace glonks {
@@ -39,27 +39,6 @@ std::map<FontKey, Font> fonts;
 std::map<std::pair<FontKey, std::string>, TextPicture> pictures;
 
 std::string unusable(const std::string& name) { return "The font \"" + name + "\" can't be used"; }
-
-// The file of the font that the system has for a name.
-std::string fontFile(const std::string& name) {
-  if (FcInit() != FcTrue) {
-    fail(ErrorNumber::serviceFailed, unusable(name), "the list of fonts can't be read");
-  }
-  const std::unique_ptr<FcPattern, void (*)(FcPattern*)> wanted(FcPatternCreate(),
-                                                                FcPatternDestroy);
-  FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.c_str()));
-  FcPatternAddBool(wanted.get(), FC_SCALABLE, FcTrue);
-  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
-  FcDefaultSubstitute(wanted.get());
-  FcResult result = FcResultNoMatch;
-  const std::unique_ptr<FcPattern, void (*)(FcPattern*)> match(
-      FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
-  FcChar8* file = nullptr;
-  if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &file) != FcResultMatch) {
-    fail(ErrorNumber::serviceFailed, unusable(name), "the system has no font");
-  }
-  return reinterpret_cast<const char*>(file);
-}
 
 FontKey keyOf(const std::string& name, i32 points, double scale) {
   return {name, points, static_cast<unsigned>(std::lround(dotsPerInch * scale))};

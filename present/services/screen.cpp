@@ -3,14 +3,12 @@
 #include <SDL.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <memory>
-#include <string>
-#include <system_error>
 #include <vector>
 
 #include "base/clock.h"
 #include "present/services/failure.h"
+#include "present/services/graphicsprocessor.h"
 #include "present/services/picturescaler.h"
 #include "present/services/rect.h"
 #include "present/services/sdlwindow.h"
@@ -125,49 +123,6 @@ void showChanges(const std::vector<Rect>& changes) {
     SDL_UpdateWindowSurfaceRects(window, sent.data(), static_cast<int>(sent.size()));
   }
   paintWhole = false;
-}
-
-// Whether the system offers a device to render with. Where it doesn't, OpenGL can only be drawn in
-// software, and asking it would load some 90 MB to hear that.
-bool mayHaveGraphicsProcessor() {
-#ifdef __linux__
-  for (const char* device : {"/dev/dri", "/dev/nvidiactl", "/dev/dxg"}) {
-    std::error_code ignored;
-    if (std::filesystem::exists(device, ignored)) return true;
-  }
-  return false;
-#else
-  return true;
-#endif
-}
-
-// Whether OpenGL here is drawn by a graphics processor, as a window that isn't shown tells.
-bool probeGraphicsProcessor() {
-  if (!mayHaveGraphicsProcessor()) return false;
-  SDL_Window* probe = SDL_CreateWindow("", 0, 0, 16, 16, SDL_WINDOW_OPENGL | SDL_WINDOW_HIDDEN);
-  if (probe == nullptr) return false;
-  bool found = false;
-  SDL_GLContext context = SDL_GL_CreateContext(probe);
-  if (context != nullptr) {
-    constexpr unsigned glRenderer = 0x1F01;
-    using GetString = const unsigned char* (*)(unsigned);
-    const auto getString = reinterpret_cast<GetString>(SDL_GL_GetProcAddress("glGetString"));
-    const auto* name =
-        getString == nullptr ? nullptr : reinterpret_cast<const char*>(getString(glRenderer));
-    const std::string drawnBy = name == nullptr ? "" : name;
-    found = true;
-    for (const char* software : {"llvmpipe", "softpipe", "swrast", "Software"}) {
-      if (drawnBy.find(software) != std::string::npos) found = false;
-    }
-    SDL_GL_DeleteContext(context);
-  }
-  SDL_DestroyWindow(probe);
-  return found;
-}
-
-bool hasGraphicsProcessor() {
-  static const bool known = probeGraphicsProcessor();
-  return known;
 }
 
 // Whether the window's own surface can be had, in the form that the scaler writes.

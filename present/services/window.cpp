@@ -8,6 +8,7 @@
 #include "present/services/audiodevice.h"
 #include "present/services/gamepad.h"
 #include "present/services/keyboardstate.h"
+#include "present/services/messagewait.h"
 #include "present/services/screen.h"
 #include "present/services/sdlwindow.h"
 
@@ -149,7 +150,7 @@ bool handleWaiting() {
   return any;
 }
 
-// SDL's wait ends as far into a millisecond as it has begun. A frame that took long begins the wait
+// The wait ends as far into a millisecond as it has begun. A frame that took long begins the wait
 // late in one; the last millisecond is then for the clock, so that the next frame isn't later
 // still. That costs a second awakening, which the usual short frames go without. True if a message
 // was handled.
@@ -158,7 +159,7 @@ bool waitForMessage(u32 until) {
   const u32 now = GetTickCount();
   const bool toTheTick = now - lastWait >= longFrame;
   const i32 wait = static_cast<i32>(until - now) - (toTheTick ? 1 : 0);
-  if (wait > 0 && SDL_WaitEventTimeout(nullptr, wait) != 0) {
+  if (wait > 0 && waitForSystemMessage(wait)) {
     handleWaiting();
     return true;
   }

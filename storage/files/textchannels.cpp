@@ -10,13 +10,7 @@
 
 #include "base/errors.h"
 #include "base/paths.h"
-
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+#include "storage/files/disk.h"
 
 namespace glonks {
 namespace {
@@ -97,24 +91,6 @@ void take(std::string& text, int byte) {
   if (text.size() <= longestLine) text += static_cast<char>(byte);
 }
 
-bool flushToDisk(std::FILE* file) {
-#ifdef _WIN32
-  return _commit(_fileno(file)) == 0;
-#else
-  return fsync(fileno(file)) == 0;
-#endif
-}
-
-// Makes a rename last through a power failure.
-void flushFolder([[maybe_unused]] const fs::path& folder) {
-#ifndef _WIN32
-  const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-  if (handle < 0) return;
-  fsync(handle);
-  close(handle);
-#endif
-}
-
 // Raises for a file that can't be read to its end: a device may have none, and opening a pipe waits
 // for whoever writes into it.
 void checkReadable(const fs::path& place, const std::string& name) {
@@ -158,7 +134,7 @@ void openChannel(i16 channel, const std::string& path, ChannelMode mode,
   }
   const bool reads = mode == ChannelMode::input;
   reads ? checkReadable(place, opening.name) : checkWritable(place, opening.name);
-  opening.file = std::fopen(place.string().c_str(), reads ? "rb" : "wb");
+  opening.file = openFile(place, reads ? "rb" : "wb");
   if (opening.file == nullptr) {
     const bool missing = reads && errno == ENOENT;
     fail(missing ? ErrorNumber::fileNotFound : ErrorNumber::fileAccess, opening.name,
@@ -250,8 +226,7 @@ void closeChannel(i16 channel) {
     error.assign(errno, std::generic_category());
   }
   if (closing.mode == ChannelMode::replace && complete) {
-    fs::rename(closing.beside, closing.target, error);
-    if (!error) flushFolder(closing.target.parent_path());
+    error = replaceFile(closing.target, closing.beside);
   }
   if (error) {
     std::error_code ignored;

@@ -1,19 +1,10 @@
 #include <gtest/gtest.h>
-#include <sys/ptrace.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <set>
 #include <vector>
 
-#include "game/model/model.h"
-#include "storage/files/scrambledfiles.h"
 #include "storage/playerfiles.h"
-#include "storage/progress.h"
-#include "storage/scores.h"
-#include "storage/store.h"
-#include "tests/fakes/random.h"
+#include "tests/crash/saver.h"
 #include "tests/tempfolder.h"
 
 namespace glonks {
@@ -21,37 +12,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 using CrashTest = TempFolder;
-
-// Runs `action` in a process of its own and kills that at its n-th stop before or after a system
-// call. True if it has come to its end by itself.
-bool finishesWithin(i32 stops, void (*action)()) {
-  const pid_t child = fork();
-  if (child == 0) {
-    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-    raise(SIGSTOP);
-    action();
-    _exit(0);
-  }
-  int status = 0;
-  while (waitpid(child, &status, 0) == child && WIFSTOPPED(status)) {
-    if (stops-- <= 0) kill(child, SIGKILL);
-    ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-  }
-  return WIFEXITED(status);
-}
-
-// So many levels that their file takes more than one write.
-void startAndSaveAll() {
-  readScores();
-  readStore();
-  readOpenLevels();
-  highScores[3] = {"Newcomer", 14000};
-  bank = 1234;
-  for (i32 level = 0; level < 200; ++level) addOpenLevel({"Reward", 3102});
-  writeScores();
-  writeStore();
-  writeOpenLevels();
-}
 
 const Texts paths = {pathOf(scoresFile), pathOf(storeFile), pathOf(levelsFile)};
 
@@ -64,19 +24,18 @@ Texts files() {
 // Killed at every step of a start and the saves, each file is the old one or the new one, and
 // neither what is left lying nor the next start minds.
 TEST_F(CrashTest, EveryFileIsTheOldOrTheNewOne) {
-  fake::useGenerator();
-  makeKeys(keySeed, keyDrawArgument, keyScale);
+  prepareSaver();
   const Texts old = files();
-  finishesWithin(1 << 20, startAndSaveAll);
+  finishesWithin(1 << 20);
   const Texts all = files();
   const std::set<Texts> stages = {old, {all[0], old[1], old[2]}, {all[0], all[1], old[2]}, all};
   std::set<Texts> seen;
   for (i32 kills = 0, finished = 0; finished == 0; ++kills) {
     for (std::size_t i = 0; i < paths.size(); ++i) putBytes(paths[i], old[i]);
-    finished = finishesWithin(kills, startAndSaveAll) ? 1 : 0;
+    finished = finishesWithin(kills) ? 1 : 0;
     ASSERT_EQ(stages.count(*seen.insert(files()).first), 1U) << kills;
     if (kills % 16 != 0) continue;
-    EXPECT_TRUE(finishesWithin(1 << 20, startAndSaveAll) && !exists(tempPath)) << kills;
+    EXPECT_TRUE(finishesWithin(1 << 20) && !exists(tempPath)) << kills;
     for (const std::string& path : paths) EXPECT_TRUE(exists(path) && !exists(path + ".new"));
   }
   EXPECT_EQ(seen, stages);

@@ -1,7 +1,5 @@
 #include <SDL_mixer.h>
 #include <png.h>
-#include <sys/stat.h>
-
 #include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "present/services/directx.h"
@@ -215,7 +213,7 @@ void noteKeys() {
 struct Window : ::testing::Test {
   ~Window() override { closeWindow(handle); }
   static i32 open() {
-    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    setVariable("SDL_VIDEODRIVER", "dummy");
     return openWindow("Glonks", {noteKeys, [] { told = -1; }, [] { ++padsGone; }});
   }
   // What the game is told of an event, of a key that is held so long that it repeats itself or of
@@ -432,9 +430,9 @@ TEST_F(Sound, IsLoadedAndPlayedWithAndWithoutADevice) {
   const auto song = [](const std::string& path) { return BASS_StreamCreateFile(0, path, 0, 0, 0); };
   const char* const good = "\\music\\Low Tide Radio - Seven Rows";
   putBytes("\\bad", "OggS" + std::string(5000, 'x'));
-  mkfifo((folder / "pipe").c_str(), 0600);
+  if (!makePipe(folder / "pipe")) create_directory(folder / "pipe");
   for (const bool silent : {true, false, false}) {  // the last as a second game does
-    setenv("SDL_AUDIODRIVER", silent ? "none such" : "dummy", 1);
+    setVariable("SDL_AUDIODRIVER", silent ? "none such" : "dummy");
     createDirectSound("");
     BASS_Init(1, 44100, 0, 1, 0);
     EXPECT_EQ(takeSoundNotice().substr(0, 8), silent ? "no sound" : "");

@@ -186,7 +186,7 @@ TEST_F(PlayerData, AFileThatCantBeReadNowIsLeftAlone) {
          {std::pair{place, "can't be opened"}, {"/proc/self/mem", "can't be read"}}) {
       setText(tMode, "Arcade");
       std::filesystem::remove(place);
-      std::filesystem::create_symlink(target, place);
+      if (!makeLink(target, place)) GTEST_SKIP() << "no links";
       EXPECT_PRED2(holds, errorOf([&] { load(file); }), pathOf(file) + "\" " + error);
       setText(tMode, "Arcade");
       EXPECT_EQ(tLevels.items.at(0), "First Steps") << "those known from before";
