@@ -60,7 +60,7 @@ void load(const HeadlessGame& game) {
 
 }  // namespace
 
-void setUpHeadless(const std::string& gameFolder) {
+void setUpHeadless(const std::filesystem::path& gameFolder) {
   setProgramFolder(std::filesystem::absolute(gameFolder));
   fake::useGenerator();
   makeKeys(keySeed, keyDrawArgument, keyScale);

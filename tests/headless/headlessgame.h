@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -38,7 +39,7 @@ struct HeadlessResult {
 using KeyChoice = std::function<i32(i32 time)>;
 
 // Makes the program ready, from a game's folder.
-void setUpHeadless(const std::string& gameFolder);
+void setUpHeadless(const std::filesystem::path& gameFolder);
 
 // The numbers of the Arcade levels, each opened by winning the one before it, from the first that
 // is open to a new player. Raises as readLevelHead does.

@@ -3,6 +3,7 @@
 #include "present/services/audiodevice.h"
 #include "present/services/bass.h"
 #include "present/services/directx.h"
+#include "present/services/messagewait.h"
 #include "present/services/screen.h"
 #include "present/services/sdlwindow.h"
 #include "present/services/window.h"
@@ -16,10 +17,10 @@ extern "C" void SDL_MaximizeWindow(SDL_Window* /*window*/) { ++timesMaximised; }
 
 // A wait in which nothing comes.
 static std::vector<int> waits;
-extern "C" int SDL_WaitEventTimeout(SDL_Event* /*event*/, int timeout) {
-  waits.push_back(timeout);
-  glonks::fake::clockNow += static_cast<unsigned>(timeout);
-  return 0;
+bool glonks::waitForSystemMessage(i32 longest) {
+  waits.push_back(longest);
+  fake::clockNow += static_cast<unsigned>(longest);
+  return false;
 }
 
 namespace glonks {
@@ -148,7 +149,7 @@ TEST_F(Files, ThatAreDamagedAreToldByName) {
   };
   const std::string pop = bytesOf("\\sounds\\_pop01.wav"), png = pngOf(40, 30, red);
   SDL_Surface* saved = SDL_CreateRGBSurface(0, 90, 90, 24, 0xFF0000, 0xFF00, 0xFF, 0);
-  SDL_SaveBMP(saved, (folder / "apple").c_str());
+  SDL_SaveBMP(saved, (folder / "apple").string().c_str());
   SDL_FreeSurface(saved);
   const std::string apple = bytesOf("\\apple");
   // One pixel on another, with sizes of 16 bits in the header.
@@ -460,6 +461,8 @@ TEST_F(Sound, IsLoadedAndPlayedWithAndWithoutADevice) {
   BASS_StreamFree(first);
   // One song at a time, and an old handle frees nothing.
   EXPECT_TRUE(BASS_ChannelIsActive(first) == 0 && BASS_ChannelIsActive(second) != 0);
+  BASS_Free();
+  EXPECT_EQ(BASS_ChannelIsActive(second), 0);
 }
 
 }  // namespace

@@ -89,7 +89,7 @@ TEST_F(Folders, PlayersOwnFolderBeginsWithTheFirstContentsAndTakesAllThatIsWritt
 
 TEST_F(Folders, FirstFilesAreMadeAllOrNone) {
   setFolders(folder, users, never);
-  fs::remove(folder / "first");
+  fs::remove_all(folder / "first");
   fs::create_directory(folder / "first");
   fs::copy(gameFolder / "first/6095", folder / "first");
   EXPECT_PRED2(holds, errorOf(makeFirstFiles), (users / "init").string());
