@@ -23,7 +23,7 @@ QString withAltKey(const std::string& caption) { return "&" + shownText(caption)
 FormWindow::FormWindow(Form& form) : form_(form), inside_(*new QWidget(this)) {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                 Qt::WindowCloseButtonHint);
+                 Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
   setCentralWidget(&inside_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   makeMenus();
@@ -35,8 +35,10 @@ void FormWindow::makeMenus() {
   if (form_.menus.empty()) return;
   menuBar()->setNativeMenuBar(false);
   menuBar()->setAccessibleName("Menu");
+  menuBar()->setFont(QApplication::font());  // not the system's own for menus
   for (const Menu& menu : form_.menus) {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
+    shown->setFont(menuBar()->font());
     for (const MenuEntry& entry : menu.entries) {
       // Queued until the menu has gone, which returns the focus to where it was.
       connect(

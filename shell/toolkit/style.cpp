@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -113,6 +114,7 @@ QFont baseFont() {
   QFont font;
   font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans", "sans-serif"});
   font.setPixelSize(fontHeight * factor);
+  font.setHintingPreference(QFont::PreferVerticalHinting);  // smooth on every system
   return font;
 }
 
@@ -142,6 +144,7 @@ void applyStyle(QApplication& application, int newFactor) {
   QApplication::setStyle("Fusion");
   QApplication::setPalette(darkPalette());
   QApplication::setFont(baseFont());
+  QToolTip::setFont(baseFont());
   application.setStyleSheet(enlarged(styleSheet));
 }
 
