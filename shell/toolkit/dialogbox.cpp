@@ -65,6 +65,7 @@ QLabel* makeLabel(const QString& text, const QScreen& screen) {
 DialogBox::DialogBox(const QString& text, QDialogButtonBox::StandardButtons buttons,
                      QWidget* parent)
     : QDialog(parent) {
+  setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
   auto* column = new QVBoxLayout(this);
   const int edge = margin * scaleFactor();
   column->setContentsMargins(edge, edge, edge, edge);

@@ -35,10 +35,8 @@ void FormWindow::makeMenus() {
   if (form_.menus.empty()) return;
   menuBar()->setNativeMenuBar(false);
   menuBar()->setAccessibleName("Menu");
-  menuBar()->setFont(QApplication::font());  // not the system's own for menus
   for (const Menu& menu : form_.menus) {
     QMenu* shown = menuBar()->addMenu(withAltKey(menu.caption));
-    shown->setFont(menuBar()->font());
     for (const MenuEntry& entry : menu.entries) {
       // Queued until the menu has gone, which returns the focus to where it was.
       connect(

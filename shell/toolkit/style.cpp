@@ -4,7 +4,6 @@
 #include <QPalette>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -143,9 +142,8 @@ void applyStyle(QApplication& application, int newFactor) {
   factor = newFactor;
   QApplication::setStyle("Fusion");
   QApplication::setPalette(darkPalette());
-  QApplication::setFont(baseFont());
-  QToolTip::setFont(baseFont());
   application.setStyleSheet(enlarged(styleSheet));
+  QApplication::setFont(baseFont());  // last: each style brings the system's own fonts for some
 }
 
 int scaleFactor() { return factor; }
