@@ -1,5 +1,3 @@
-#include <sys/resource.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -10,6 +8,7 @@
 
 #include "base/paths.h"
 #include "base/text.h"
+#include "bench/spent.h"
 #include "game/model/gametick.h"
 #include "game/model/mode.h"
 #include "game/model/model.h"
@@ -44,21 +43,9 @@ double playingSeconds = 60;
 std::vector<Shown> shown;
 bool withEffects = true;
 
-struct Spent {
-  double cpu = 0;      // seconds
-  double wakeups = 0;  // times that a thread went on after waiting
-};
 Spent atStart, atEnd;
 
 double now() { return std::chrono::duration<double>(Clock::now() - click).count(); }
-
-Spent spentSoFar() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return {static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-              static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6,
-          static_cast<double>(usage.ru_nvcsw)};
-}
 
 // Six full rows; the seventh is kept free, so that the game goes on.
 void keepBusy() {
@@ -153,10 +140,11 @@ int main(int argc, char** argv) {
   }
   report("frame period", periods);
   report("showing a picture", costs);
-  std::cout << "share of one core: " << (atEnd.cpu - atStart.cpu) / playingSeconds * 100 << " %\n"
-            << "wakeups a second: " << (atEnd.wakeups - atStart.wakeups) / playingSeconds << "\n";
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  std::cout << "peak memory: " << static_cast<double>(usage.ru_maxrss) / 1024 << " MB\n";
+  std::cout << "share of one core: " << (atEnd.cpu - atStart.cpu) / playingSeconds * 100 << " %\n";
+  if (atEnd.wakeups) {
+    std::cout << "wakeups a second: " << (*atEnd.wakeups - *atStart.wakeups) / playingSeconds
+              << "\n";
+  }
+  std::cout << "peak memory: " << spentSoFar().peakMemory / 0x1p20 << " MB\n";
   return EXIT_SUCCESS;
 }
