@@ -30,6 +30,18 @@ void takeOwnSize() {
   if (ownMaximised) SDL_MaximizeWindow(sdlWindow);
 }
 
+// The monitor under the pointer, which is the one that the player has clicked on; else the first.
+SDL_Rect monitorInUse() {
+  SDL_Point pointer;
+  SDL_GetGlobalMouseState(&pointer.x, &pointer.y);
+  SDL_Rect bounds{0, 0, smallestWindow, smallestWindow};
+  for (int i = SDL_GetNumVideoDisplays() - 1; i >= 0; --i) {
+    SDL_GetDisplayBounds(i, &bounds);
+    if (SDL_PointInRect(&pointer, &bounds) == SDL_TRUE) break;
+  }
+  return bounds;
+}
+
 }  // namespace
 
 i32 createSdlWindow(const std::string& caption) {
@@ -43,11 +55,10 @@ i32 createSdlWindow(const std::string& caption) {
   }
   SDL_FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);  // an earlier window's events concern nobody now
   SDL_DisableScreenSaver();
-  // Of the desktop's size from the start: without a window manager nobody else makes it so.
-  SDL_Rect desktop{0, 0, smallestWindow, smallestWindow};
-  SDL_GetDisplayBounds(0, &desktop);
+  // Of the monitor's size from the start: without a window manager nobody else makes it so.
+  const SDL_Rect monitor = monitorInUse();
   sdlWindow = SDL_CreateWindow(
-      caption.c_str(), desktop.x, desktop.y, desktop.w, desktop.h,
+      caption.c_str(), monitor.x, monitor.y, monitor.w, monitor.h,
       SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
   if (sdlWindow == nullptr) fail(ErrorNumber::serviceFailed, "The game's window can't be opened");
   SDL_SetWindowMinimumSize(sdlWindow, smallestWindow, smallestWindow);
