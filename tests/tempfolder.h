@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 #include "base/errors.h"
 #include "base/paths.h"
 #include "storage/files/scrambledfiles.h"
-#include "tests/system.h"
 
 namespace glonks {
 
@@ -27,7 +27,8 @@ class TempFolder : public ::testing::Test {
  protected:
   TempFolder() {
     namespace fs = std::filesystem;
-    folder = fs::temp_directory_path() / ("glonks." + std::to_string(processNumber()));
+    static const std::string ofThisRun = std::to_string(std::random_device()());
+    folder = fs::temp_directory_path() / ("glonks." + ofThisRun);
     fs::remove_all(folder);
     fs::create_directories(folder);
     for (const char* part : {"images", "sounds", "music", "themes", "levels", "first"}) {
@@ -52,12 +53,9 @@ class TempFolder : public ::testing::Test {
 
   // A link to a file or folder, or in its place a folder with second names of the files.
   static void link(const std::filesystem::path& target, const std::filesystem::path& place) {
-    if (makeLink(target, place)) return;
-    if (!is_directory(target)) return create_hard_link(target, place);
-    create_directory(place);
-    for (const auto& file : std::filesystem::directory_iterator(target)) {
-      link(file.path(), place / file.path().filename());
-    }
+    using Options = std::filesystem::copy_options;
+    if (!makeLink(target, place))
+      copy(target, place, Options::recursive | Options::create_hard_links);
   }
 
   const std::filesystem::path gameFolder = GLONKS_GAME_FOLDER;

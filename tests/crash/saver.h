@@ -5,9 +5,6 @@
 // What the crash test kills: a start of the program and its saves, step by step.
 namespace glonks {
 
-// Before anything else: what the start of the program sets.
-void prepareSaver();
-
 // Reads all that the player owns, changes it, and stores it.
 void startAndSaveAll();
 

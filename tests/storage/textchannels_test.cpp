@@ -45,7 +45,6 @@ TEST_F(TextChannels, LinesEndInThreeWaysAndFieldsAtCommasToo) {
 TEST_F(TextChannels, OnlyRegularFilesOfBoundedSizeAreRead) {
   Texts irregular = {"\\init"};
   if (makeLink("/dev/zero", folder / "device")) irregular.push_back("\\device");
-  if (makePipe(folder / "pipe")) irregular.push_back("\\pipe");
   putBytes("\\large", std::string((1 << 20) + 1, 'x'));
   const auto opening = [](const std::string& path) {
     return errorOf([&] { openChannel(4, path, ChannelMode::input); });
