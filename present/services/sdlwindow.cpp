@@ -24,6 +24,9 @@ void noteOwnSize() {
 void takeOwnSize() {
   SDL_Rect room{0, 0, ownWidth, ownHeight};
   SDL_GetDisplayUsableBounds(SDL_GetWindowDisplayIndex(sdlWindow), &room);
+  int top = 0, left = 0, bottom = 0, right = 0;  // the frame's, where the system tells
+  SDL_GetWindowBordersSize(sdlWindow, &top, &left, &bottom, &right);
+  room = {room.x + left, room.y + top, room.w - left - right, room.h - top - bottom};
   SDL_SetWindowSize(sdlWindow, std::min(ownWidth, room.w), std::min(ownHeight, room.h));
   if (!placed) SDL_SetWindowPosition(sdlWindow, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
   placed = true;

@@ -16,7 +16,7 @@ void startToolkit();
 
 // The folder of the program file itself, also if it was started by a link to it; and the one that
 // the system has for what this program keeps for its user, $XDG_DATA_HOME/glonks or
-// ~/.local/share/glonks (%LOCALAPPDATA%\\glonks on Windows), which need not be there.
+// ~/.local/share/glonks (%LOCALAPPDATA%\glonks on Windows), which need not be there.
 std::filesystem::path folderOfProgram();
 std::filesystem::path folderOfUsersData();
 
