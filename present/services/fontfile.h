@@ -8,4 +8,9 @@ namespace glonks {
 // its place. Raises serviceFailed if there is no font at all.
 std::string fontFile(const std::string& name);
 
+// How the error of any font begins.
+inline std::string unusableFont(const std::string& name) {
+  return "The font \"" + name + "\" can't be used";
+}
+
 }  // namespace glonks

@@ -8,9 +8,8 @@
 namespace glonks {
 
 std::string fontFile(const std::string& name) {
-  const std::string unusable = "The font \"" + name + "\" can't be used";
   if (FcInit() != FcTrue) {
-    fail(ErrorNumber::serviceFailed, unusable, "the list of fonts can't be read");
+    fail(ErrorNumber::serviceFailed, unusableFont(name), "the list of fonts can't be read");
   }
   const std::unique_ptr<FcPattern, void (*)(FcPattern*)> wanted(FcPatternCreate(),
                                                                 FcPatternDestroy);
@@ -23,7 +22,7 @@ std::string fontFile(const std::string& name) {
       FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
   FcChar8* file = nullptr;
   if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &file) != FcResultMatch) {
-    fail(ErrorNumber::serviceFailed, unusable, "the system has no font");
+    fail(ErrorNumber::serviceFailed, unusableFont(name), "the system has no font");
   }
   return reinterpret_cast<const char*>(file);
 }

@@ -41,7 +41,7 @@ std::string fontFile(const std::string& name) {
   }
   const fs::path own = nativePath(ownFont);
   if (isRegularFile(own)) return own.string();
-  fail(ErrorNumber::serviceFailed, "The font \"" + name + "\" can't be used",
+  fail(ErrorNumber::serviceFailed, unusableFont(name),
        "the system hasn't got it, and the game's own is missing");
 }
 

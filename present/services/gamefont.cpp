@@ -38,8 +38,6 @@ struct FontKey {
 std::map<FontKey, Font> fonts;
 std::map<std::pair<FontKey, std::string>, TextPicture> pictures;
 
-std::string unusable(const std::string& name) { return "The font \"" + name + "\" can't be used"; }
-
 FontKey keyOf(const std::string& name, i32 points, double scale) {
   return {name, points, static_cast<unsigned>(std::lround(dotsPerInch * scale))};
 }
@@ -47,9 +45,10 @@ FontKey keyOf(const std::string& name, i32 points, double scale) {
 TTF_Font* fontFor(const FontKey& key) {
   Font& font = fonts[key];
   if (font) return font.get();
-  if (TTF_WasInit() == 0 && TTF_Init() != 0) fail(ErrorNumber::serviceFailed, unusable(key.name));
+  if (TTF_WasInit() == 0 && TTF_Init() != 0)
+    fail(ErrorNumber::serviceFailed, unusableFont(key.name));
   font.reset(TTF_OpenFontDPI(fontFile(key.name).c_str(), key.points, key.dots, key.dots));
-  if (!font) fail(ErrorNumber::serviceFailed, unusable(key.name));
+  if (!font) fail(ErrorNumber::serviceFailed, unusableFont(key.name));
   return font.get();
 }
 

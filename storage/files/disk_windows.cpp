@@ -2,8 +2,6 @@
 
 #include <io.h>
 
-#include <string>
-
 #include "storage/files/disk.h"
 
 namespace glonks {
@@ -22,8 +20,7 @@ bool isInUse(DWORD error) {
 }  // namespace
 
 std::FILE* openFile(const std::filesystem::path& path, const char* mode) {
-  return _wfopen(path.c_str(),
-                 std::wstring(mode, mode + std::char_traits<char>::length(mode)).c_str());
+  return _wfopen(path.c_str(), std::filesystem::path(mode).c_str());
 }
 
 bool flushToDisk(std::FILE* file) { return _commit(_fileno(file)) == 0; }
