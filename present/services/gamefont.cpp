@@ -45,8 +45,9 @@ FontKey keyOf(const std::string& name, i32 points, double scale) {
 TTF_Font* fontFor(const FontKey& key) {
   Font& font = fonts[key];
   if (font) return font.get();
-  if (TTF_WasInit() == 0 && TTF_Init() != 0)
+  if (TTF_WasInit() == 0 && TTF_Init() != 0) {
     fail(ErrorNumber::serviceFailed, unusableFont(key.name));
+  }
   font.reset(TTF_OpenFontDPI(fontFile(key.name).c_str(), key.points, key.dots, key.dots));
   if (!font) fail(ErrorNumber::serviceFailed, unusableFont(key.name));
   return font.get();
